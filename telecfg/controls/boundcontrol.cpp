@@ -1,0 +1,75 @@
+#include "telecfg/controls/boundcontrol.h"
+#include "telecfg/dialogs/licence_p.h"
+
+#include <QWidget>
+
+void BoundControl::bind(MainConfigIFace *boundIface, int ref, const QList<QWidget *> &related)
+{
+    iface = boundIface;
+    reference = ref;
+    relatedWidgets = related;
+    error = false;
+}
+
+void BoundControl::registerIn(QWidget *control, QWidget *label) const
+{
+    MainConfigObject &object = record();
+    object.control = control;
+    object.label = label;
+}
+
+bool BoundControl::isHiddenNow(int id)
+{
+    if (id != 0)
+        hardwareId = id;
+    const quint32 version = iface->object(2).value.toUInt();
+    const quint32 minimum = getConfigMinVersion(record());
+    const quint32 maximum = getConfigMaxVersion(record());
+    if (version < minimum)
+        return true;
+    if (maximum != 0 && version > maximum)
+        return true;
+    const QList<int> &ids = record().hardwareIds;
+    if (!ids.isEmpty() && !ids.contains(hardwareId))
+        return true;
+    if (record().hidden)
+        return true;
+    return record().licenceGate > guiLicenseLevel();
+}
+
+bool BoundControl::refreshVisibility(QWidget *self, int id)
+{
+    if (!iface)
+        return false;
+    const bool hide = isHiddenNow(id);
+    self->setVisible(!hide);
+    for (QWidget *widget : qAsConst(relatedWidgets))
+        widget->setVisible(!hide);
+    return true;
+}
+
+bool BoundControl::setHidden(QWidget *self, bool hidden)
+{
+    self->setHidden(hidden);
+    if (!iface)
+        return false;
+    record().hidden = hidden;
+    return true;
+}
+
+void BoundControl::setEnabled(QWidget *self, bool enable) const
+{
+    self->setEnabled(enableState ? enable : false);
+}
+
+void BoundControl::updateEnableState(QWidget *self, bool state)
+{
+    enableState = state;
+    self->setEnabled(enableState ? self->isEnabled() : false);
+}
+
+void applyStyleSheet(QWidget *widget, const QString &sheet)
+{
+    if (widget->styleSheet() != sheet)
+        widget->setStyleSheet(sheet);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "telecfg/config/mainconfig.h"
+
+#include <QList>
+
+class QString;
+class QWidget;
+
+// Internal to the library: installed only because the controls hold it by value.
+//
+// The protocol every bound control shares: its binding to one parameter, the visibility
+// rules of a refresh, the host's enable gate and the hidden request. A control holds one
+// of these as a plain member and adds only its own painting and editing; the controls
+// cannot share a base class because each derives from a different toolkit widget and
+// must not add virtual operations.
+class BoundControl
+{
+public:
+    MainConfigIFace *iface = nullptr;
+    int reference = 0;
+    bool enableState = true;
+    QList<QWidget *> relatedWidgets;
+    int hardwareId = 0;
+    bool error = false;
+
+    // Stores the binding and clears `error`.
+    void bind(MainConfigIFace *iface, int ref, const QList<QWidget *> &related);
+    // The bound record, fetched anew at every call (the host may rebuild it).
+    MainConfigObject &record() const { return iface->object(reference); }
+    // Writes `control` and `label` into the bound record.
+    void registerIn(QWidget *control, QWidget *label) const;
+
+    // The visibility steps of a refresh: remembers a non-zero hardware id, decides from
+    // the version range, the hardware list, the hidden flag and the licence gate, and hides
+    // or shows `self` and the related widgets. Returns false (doing nothing) when unbound;
+    // the caller then skips its painting step.
+    bool refreshVisibility(QWidget *self, int hardwareId);
+    // True when the bound parameter does not exist or is closed for the present device.
+    bool isHiddenNow(int hardwareId);
+
+    // The widget's own setHidden, then the request recorded in the bound record.
+    // Returns true when bound, so the caller refreshes.
+    bool setHidden(QWidget *self, bool hidden);
+    // Enables the widget only while the host's gate is open.
+    void setEnabled(QWidget *self, bool enable) const;
+    // Stores the gate; closing it disables, opening it leaves the widget as it is.
+    void updateEnableState(QWidget *self, bool state);
+};
+
+// Applies a style sheet unless the widget already holds exactly this one: re-applying an
+// equal sheet makes the toolkit re-polish the widget for nothing.
+void applyStyleSheet(QWidget *widget, const QString &sheet);

@@ -1,0 +1,4 @@
+#pragma once
+
+// The level last given to setGUILicenseLevel (0 until the host sets one).
+int guiLicenseLevel();

@@ -1,0 +1,53 @@
+# Script mode: installs telecfg into a scratch prefix and builds tiny hosts against it.
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    if(NOT rc EQUAL 0)
+        message(FATAL_ERROR "failed (${rc}): ${ARGN}\n${out}\n${err}")
+    endif()
+    set(last_output "${out}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE ${WORK_DIR})
+set(prefix ${WORK_DIR}/prefix)
+run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --prefix ${prefix})
+
+foreach(private licence_p.h firmwarekeys.h countrycode.h)
+    file(GLOB_RECURSE leaked ${prefix}/include/*/${private})
+    if(leaked)
+        message(FATAL_ERROR "private header installed: ${leaked}")
+    endif()
+endforeach()
+
+# 1. find_package against the installed tree.
+run(${CMAKE_COMMAND} -S ${CONSUMER_DIR} -B ${WORK_DIR}/consumer -G Ninja
+    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release)
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/consumer)
+run(${WORK_DIR}/consumer/telecfg_consumer)
+message(STATUS "find_package consumer: ${last_output}")
+
+# 2. pkg-config names the same library and headers.
+find_program(PKG_CONFIG pkg-config REQUIRED)
+set(ENV{PKG_CONFIG_PATH} ${prefix}/lib/pkgconfig:${prefix}/lib/x86_64-linux-gnu/pkgconfig)
+run(${PKG_CONFIG} --libs telecfg)
+if(NOT last_output MATCHES "-ltelecfg")
+    message(FATAL_ERROR "telecfg.pc does not link telecfg: ${last_output}")
+endif()
+run(${PKG_CONFIG} --variable=includedir telecfg)
+string(STRIP "${last_output}" includedir)
+file(REAL_PATH "${includedir}" includedir)
+if(NOT EXISTS ${includedir}/telecfg/config/mainconfig.h)
+    message(FATAL_ERROR "telecfg.pc points at ${includedir}, which has no telecfg headers")
+endif()
+
+# 3. add_subdirectory: tests, benchmarks and examples stay off for a host that embeds it.
+file(MAKE_DIRECTORY ${WORK_DIR}/embed)
+file(WRITE ${WORK_DIR}/embed/CMakeLists.txt
+    "cmake_minimum_required(VERSION 3.25)\nproject(embedding_host CXX)\n"
+    "add_subdirectory(${TELECFG_SOURCE_DIR} telecfg)\n"
+    "add_executable(embedding_host ${CONSUMER_DIR}/main.cpp)\n"
+    "target_link_libraries(embedding_host PRIVATE telecfg::telecfg)\n")
+run(${CMAKE_COMMAND} -S ${WORK_DIR}/embed -B ${WORK_DIR}/embed/build -G Ninja)
+run(${CMAKE_COMMAND} --build ${WORK_DIR}/embed/build --target help)
+if(last_output MATCHES "tst_|bench_|telecfg-demo")
+    message(FATAL_ERROR "an embedded telecfg builds its own tests or examples:\n${last_output}")
+endif()

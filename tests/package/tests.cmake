@@ -1,0 +1,11 @@
+# Packaging cannot rot silently: install the built tree and build a host against it with
+# find_package (and pkg-config), and take telecfg in with add_subdirectory as hosts may.
+add_test(NAME package_consumer
+    COMMAND ${CMAKE_COMMAND}
+        -DTELECFG_BUILD_DIR=${PROJECT_BINARY_DIR}
+        -DTELECFG_SOURCE_DIR=${PROJECT_SOURCE_DIR}
+        -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/package
+        -DCONSUMER_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
+        -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
+set_tests_properties(package_consumer PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)

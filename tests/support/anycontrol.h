@@ -1,0 +1,44 @@
+#pragma once
+
+#include "telecfg/config/mainconfig.h"
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+// One bound control of any kind behind a common face, so a protocol test can run the
+// same table over every kind. Each kind calls its own (non-virtual) operations.
+struct AnyControl
+{
+    std::unique_ptr<QWidget> widget;
+    std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> setReference;
+    std::function<void(int)> updateControl;
+    std::function<void(bool)> setEnabled;
+    std::function<void(bool)> updateEnableState;
+    std::function<void(bool)> setHidden;
+    std::function<void(bool)> setError;
+    std::function<bool()> isError;
+};
+
+template <class Control>
+AnyControl makeAnyControl()
+{
+    AnyControl any;
+    auto *control = new Control;
+    any.widget.reset(control);
+    any.setReference = [control](MainConfigIFace *iface, int ref, QWidget *label,
+                                 QList<QWidget *> related) {
+        control->setReference(iface, ref, label, related);
+    };
+    any.updateControl = [control](int id) { control->updateControl(id); };
+    any.setEnabled = [control](bool on) { control->setEnabled(on); };
+    any.updateEnableState = [control](bool on) { control->updateEnableState(on); };
+    any.setHidden = [control](bool hidden) { control->setHidden(hidden); };
+    any.setError = [control](bool error) { control->setError(error); };
+    any.isError = [control]() { return control->isError(); };
+    return any;
+}
+
+// The kinds a protocol test runs over, by name ("checkbox", ...). Add each new kind here.
+QStringList anyControlKinds();
+AnyControl makeAnyControl(const QString &kind);
