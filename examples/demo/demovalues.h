@@ -1,0 +1,24 @@
+#pragma once
+
+#include "telecfg/config/mainconfig.h"
+
+#include <QJsonObject>
+#include <QJsonValue>
+
+// How the demo's JSON becomes the values the controls expect, and the host's own value
+// comparisons (the library has none of its own).
+
+// The record's value for a JSON value, of the type the bound control reads and writes.
+QVariant demoValue(const MainConfigObject &object, const QJsonValue &json);
+// Capacity, column lists and value names of collection parameters.
+void applyCollectionShape(MainConfigObject &object, const QJsonObject &json);
+bool isCollection(const MainConfigObject &object);
+
+// Equality as the host sees it: containers element by element, scalars by value.
+bool sameValue(const QVariant &a, const QVariant &b);
+// Places whose elements differ between two collection values.
+QList<int> differingElements(const QVariant &current, const QVariant &stored);
+// Places of a collection whose element breaks the parameter's rules (a repeated element,
+// a table cell that is not a number).
+QList<int> invalidElements(const MainConfigObject &object, const QJsonObject &rules);
+bool containsElement(const QVariant &collection, const QVariant &element);

@@ -1,0 +1,173 @@
+#include "demowindow.h"
+#include "demotable.h"
+
+#include "telecfg/dialogs/gui.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QToolBar>
+
+DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
+    : QMainWindow(parent), table(demoTable), tabs(new QTabWidget(this))
+{
+    setWindowTitle(table->title);
+    QToolBar *bar = addToolBar(tr("Urządzenie"));
+    bar->setMovable(false);
+
+    bar->addWidget(new QLabel(tr("Wersja konfiguracji:"), bar));
+    versionBox = new QComboBox(bar);
+    for (int version : qAsConst(table->versions))
+        versionBox->addItem(QString::number(version), version);
+    versionBox->setCurrentIndex(versionBox->findData(int(table->version())));
+    bar->addWidget(versionBox);
+
+    bar->addSeparator();
+    bar->addWidget(new QLabel(tr("Sprzęt:"), bar));
+    hardwareBox = new QComboBox(bar);
+    for (const DemoTable::Hardware &hardware : qAsConst(table->hardware))
+        hardwareBox->addItem(hardware.name, hardware.id);
+    bar->addWidget(hardwareBox);
+
+    bar->addSeparator();
+    bar->addWidget(new QLabel(tr("Poziom licencji:"), bar));
+    licenceBox = new QSpinBox(bar);
+    licenceBox->setRange(0, 9);
+    licenceBox->setMinimumWidth(48);
+    bar->addWidget(licenceBox);
+
+    bar->addSeparator();
+    auto *saveButton = new QPushButton(tr("Zapisz"), bar);
+    auto *revertButton = new QPushButton(tr("Przywróć"), bar);
+    bar->addWidget(saveButton);
+    bar->addWidget(revertButton);
+
+    summary = new QLabel(this);
+    statusBar()->addWidget(summary, 1);
+
+    connect(versionBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &DemoWindow::versionChosen);
+    connect(hardwareBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &DemoWindow::refresh);
+    connect(licenceBox, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &DemoWindow::licenceChosen);
+    connect(saveButton, &QPushButton::clicked, this, &DemoWindow::save);
+    connect(revertButton, &QPushButton::clicked, this, &DemoWindow::revert);
+
+    setCentralWidget(tabs);
+    buildPages();
+    refresh();
+    resize(920, 560);
+}
+
+void DemoWindow::buildPages()
+{
+    QMap<QString, QFormLayout *> forms;
+    for (const QString &page : qAsConst(table->pages)) {
+        auto *scroll = new QScrollArea(tabs);
+        auto *content = new QWidget(scroll);
+        auto *form = new QFormLayout(content);
+        form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+        scroll->setWidget(content);
+        scroll->setWidgetResizable(true);
+        tabs->addTab(scroll, page);
+        forms.insert(page, form);
+    }
+    for (const DemoTable::Parameter &parameter : qAsConst(table->parameters)) {
+        QFormLayout *form = forms.value(parameter.page);
+        if (!form || parameter.control.isEmpty())
+            continue;
+        QWidget *content = form->parentWidget();
+        QLabel *label = parameter.label.isEmpty() ? nullptr : new QLabel(parameter.label, content);
+        FormControl control = createFormControl(parameter.control, table, parameter.ref,
+                                                parameter.text, label, content);
+        if (!control.widget) {
+            qWarning("demo: parameter %d has an unknown control \"%s\"", parameter.ref,
+                     qPrintable(parameter.control));
+            delete label;
+            continue;
+        }
+        if (label)
+            form->addRow(label, control.widget);
+        else
+            form->addRow(control.widget);
+        control.bind();
+        controls.append(control);
+    }
+}
+
+int DemoWindow::hardwareId() const
+{
+    return hardwareBox->currentData().toInt();
+}
+
+void DemoWindow::refresh()
+{
+    for (const FormControl &control : qAsConst(controls))
+        control.refresh(hardwareId());
+    summary->setText(tr("Wersja %1, zmienione parametry: %2, błędne: %3")
+                         .arg(table->version())
+                         .arg(table->modifiedCount())
+                         .arg(table->invalidCount()));
+}
+
+void DemoWindow::save()
+{
+    table->save();
+    refresh();
+}
+
+void DemoWindow::revert()
+{
+    table->revert();
+    // Binding is what loads a value into a control; a refresh only repaints.
+    for (const FormControl &control : qAsConst(controls))
+        control.bind();
+    table->revert(); // undo what the controls echoed back while being bound
+    refresh();
+}
+
+void DemoWindow::versionChosen(int index)
+{
+    table->setVersion(versionBox->itemData(index).toUInt());
+    refresh();
+}
+
+void DemoWindow::licenceChosen(int level)
+{
+    setGUILicenseLevel(level);
+    refresh();
+}
+
+QStringList DemoWindow::renderPages(const QString &dir)
+{
+    QStringList files;
+    QDir().mkpath(dir);
+    show();
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        // File names in plain ASCII: "Sieci komórkowe" becomes "sieci-komorkowe".
+        QString name;
+        for (QChar c : tabs->tabText(i).toLower().replace(QChar(0x142), QLatin1Char('l'))
+                           .normalized(QString::NormalizationForm_D)) {
+            if (c.isLetterOrNumber() && c.unicode() < 128)
+                name.append(c);
+            else if (c.isSpace())
+                name.append(QLatin1Char('-'));
+        }
+        const QString file =
+            QDir(dir).filePath(QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(name));
+        if (grab().save(file))
+            files.append(file);
+    }
+    return files;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "controlfactory.h"
+
+#include <QMainWindow>
+
+class DemoTable;
+class QComboBox;
+class QLabel;
+class QSpinBox;
+class QTabWidget;
+
+// The demo configurator: a page per data group of the device, a bar to choose the
+// configuration version, hardware and licence level, and "Zapisz" / "Przywróć".
+class DemoWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit DemoWindow(DemoTable *table, QWidget *parent = nullptr);
+
+    // Renders every page to DIR/NN-name.png; returns the files written.
+    QStringList renderPages(const QString &dir);
+
+public slots:
+    void refresh();
+
+private slots:
+    void save();
+    void revert();
+    void versionChosen(int index);
+    void licenceChosen(int level);
+
+private:
+    void buildPages();
+    int hardwareId() const;
+
+    DemoTable *table;
+    QTabWidget *tabs;
+    QComboBox *versionBox;
+    QComboBox *hardwareBox;
+    QSpinBox *licenceBox;
+    QLabel *summary;
+    QList<FormControl> controls;
+};

@@ -1,0 +1,12 @@
+# The demo configurator renders every page of its sample table, and refuses a broken table.
+if(TARGET telecfg-demo)
+    add_test(NAME demo_screenshots
+        COMMAND ${CMAKE_COMMAND} -DDEMO=$<TARGET_FILE:telecfg-demo>
+            -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots -DPAGES=6
+            -P ${CMAKE_CURRENT_LIST_DIR}/screenshots_check.cmake)
+    add_test(NAME demo_bad_table
+        COMMAND telecfg-demo --table ${CMAKE_CURRENT_LIST_DIR}/tests.cmake --screenshot ${CMAKE_CURRENT_BINARY_DIR}/none)
+    set_tests_properties(demo_bad_table PROPERTIES WILL_FAIL TRUE)
+    set_tests_properties(demo_screenshots demo_bad_table PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endif()
