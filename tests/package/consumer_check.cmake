@@ -18,9 +18,16 @@ foreach(private licence_p.h firmwarekeys.h countrycode.h)
     endif()
 endforeach()
 
+# A sanitized library needs a sanitized host.
+set(flags "")
+if(SANITIZE)
+    set(flags "-DCMAKE_CXX_FLAGS=-fsanitize=${SANITIZE}"
+              "-DCMAKE_EXE_LINKER_FLAGS=-fsanitize=${SANITIZE}")
+endif()
+
 # 1. find_package against the installed tree.
 run(${CMAKE_COMMAND} -S ${CONSUMER_DIR} -B ${WORK_DIR}/consumer -G Ninja
-    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release)
+    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release ${flags})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/consumer)
 run(${WORK_DIR}/consumer/telecfg_consumer)
 message(STATUS "find_package consumer: ${last_output}")

@@ -6,6 +6,7 @@ add_test(NAME package_consumer
         -DTELECFG_SOURCE_DIR=${PROJECT_SOURCE_DIR}
         -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/package
         -DCONSUMER_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
+        -DSANITIZE=${TELECFG_SANITIZE}
         -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
 set_tests_properties(package_consumer PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)
