@@ -2,6 +2,23 @@
 
 #include "telecfg/telecfg_export.h"
 
+class QGroupBox;
+
+// Prepares the library's tables: constructing it fills the country and operator table (see
+// telecfg/network/countrytable.h). The host constructs it once at start-up; it holds no data.
+class TELECFG_EXPORT GUI
+{
+public:
+    GUI();
+    GUI(const GUI &) = default;
+    // Deliberately does nothing, as hosts expect of an object without data.
+    GUI &operator=(const GUI &) { return *this; }
+};
+
+// Makes the title of a group box bold while every widget inside it keeps a normal (50) or
+// bold (75) weight: children heavier than QFont::Medium come back bold, all others normal.
+TELECFG_EXPORT void setGroupBoxTitleBold(QGroupBox *box);
+
 // Sets the process-wide licence level. A parameter whose `licenceGate` is greater than
 // this level is hidden by every bound control. The level is 0 until the host sets one.
 TELECFG_EXPORT void setGUILicenseLevel(int level);

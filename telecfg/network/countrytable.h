@@ -1,0 +1,33 @@
+#pragma once
+
+#include "telecfg/telecfg_export.h"
+
+#include <QMap>
+#include <QString>
+
+// The mobile networks the library knows: country code (E.212 MCC) to country entry, and in
+// each entry network code (MNC) to operator name. A mobile network id packs both codes:
+// the country code from bit 10 upward, the network code in the low 10 bits.
+//
+// Both levels are multi-maps: a key may occur more than once, the value inserted last stands
+// in front of its key and is the one a lookup finds.
+struct CountryEntry
+{
+    QString name;
+    QMap<quint32, QString> operators;
+};
+
+TELECFG_EXPORT extern QMap<quint32, CountryEntry> countryTable;
+
+// Network codes with a fixed meaning; the table holds neither.
+constexpr quint32 CodeUnknown = 999;
+constexpr quint32 CodeAll = 998;
+
+// Empties countryTable and builds it anew from the built-in data (country names translated
+// in the QObject context, operator names as they stand). Constructing GUI calls it.
+TELECFG_EXPORT void fillCountryTable();
+
+// Gives the country and operator texts of a mobile network id, filling the table first when
+// it is empty. Unknown codes read "Nieznany"; network code 998 reads "Wszystkie" even for an
+// unknown country.
+TELECFG_EXPORT void networkNames(quint32 networkId, QString &countryName, QString &operatorName);
