@@ -7,6 +7,8 @@
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/cfgspinbox.h"
 
+#include <QTest>
+
 QStringList anyControlKinds()
 {
     return {QStringLiteral("checkbox"),      QStringLiteral("combobox"),
@@ -14,20 +16,33 @@ QStringList anyControlKinds()
             QStringLiteral("doublespinbox"), QStringLiteral("radiobutton")};
 }
 
+namespace {
+template <class Control> AnyControl makeEditable(std::function<void(Control *)> edit)
+{
+    AnyControl any = makeAnyControl<Control>();
+    auto *control = static_cast<Control *>(any.widget.get());
+    any.userEdit = [control, edit] { edit(control); };
+    return any;
+}
+} // namespace
+
 AnyControl makeAnyControl(const QString &kind)
 {
     if (kind == QLatin1String("checkbox"))
-        return makeAnyControl<CfgCheckBox>();
+        return makeEditable<CfgCheckBox>([](CfgCheckBox *box) { box->click(); });
     if (kind == QLatin1String("combobox"))
-        return makeAnyControl<CfgComboBox>();
+        return makeEditable<CfgComboBox>(
+            [](CfgComboBox *box) { box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0); });
     if (kind == QLatin1String("lineedit"))
-        return makeAnyControl<CfgLineEdit>();
+        return makeEditable<CfgLineEdit>(
+            [](CfgLineEdit *edit) { QTest::keyClick(edit, Qt::Key_1); });
     if (kind == QLatin1String("spinbox"))
-        return makeAnyControl<CfgSpinBox>();
+        return makeEditable<CfgSpinBox>([](CfgSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
     if (kind == QLatin1String("doublespinbox"))
-        return makeAnyControl<CfgDoubleSpinBox>();
+        return makeEditable<CfgDoubleSpinBox>(
+            [](CfgDoubleSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
     if (kind == QLatin1String("radiobutton"))
-        return makeAnyControl<CfgRadioButton>();
+        return makeEditable<CfgRadioButton>([](CfgRadioButton *button) { button->click(); });
     qFatal("unknown control kind %s", qPrintable(kind));
     return {};
 }
