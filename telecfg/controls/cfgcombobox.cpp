@@ -85,9 +85,11 @@ void CfgComboBox::updateControl(int hardwareId)
 void CfgComboBox::updateColor(bool enabled)
 {
     if (enabled) {
-        static const QColor white(QStringLiteral("white"));
+        // Setting an equal background still makes the model announce a change; skip it.
+        static const QVariant white = QColor(QStringLiteral("white"));
         for (int i = 0; i < count(); ++i)
-            setItemData(i, white, Qt::BackgroundRole);
+            if (itemData(i, Qt::BackgroundRole) != white)
+                setItemData(i, white, Qt::BackgroundRole);
     }
     Colour colour = enabled ? White : PaleGrey;
     if (bound.error)
