@@ -1,6 +1,11 @@
 // Refreshing a form of 1000 bound controls, beside the toolkit's own widget mapper
 // reverting 1000 line edits from a model: what a host pays to bring a form up to date.
 #include "telecfg/controls/cfgcheckbox.h"
+#include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/controls/cfglineedit.h"
+#include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/controls/cfgspinbox.h"
 #include "tests/support/testhost.h"
 
 #include <QApplication>
@@ -8,59 +13,112 @@
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <benchmark/benchmark.h>
+#include <tuple>
 
 namespace {
 constexpr int formSize = 1000;
+constexpr int firstRef = 100;
 
-struct CheckBoxForm
+enum Kind { CheckBox, ComboBox, LineEdit, SpinBox, DoubleSpinBox, RadioButton, Mixed };
+const char *const kindNames[] = {"checkbox",      "combobox",    "lineedit", "spinbox",
+                                 "doublespinbox", "radiobutton", "all six"};
+
+// A form of `formSize` controls of one kind, or of all six in turn.
+struct Form
 {
     TestHost host;
     QWidget form;
-    QList<CfgCheckBox *> boxes;
+    std::tuple<QList<CfgCheckBox *>, QList<CfgComboBox *>, QList<CfgLineEdit *>,
+               QList<CfgSpinBox *>, QList<CfgDoubleSpinBox *>, QList<CfgRadioButton *>>
+        controls;
 
-    CheckBoxForm()
+    explicit Form(int kind)
     {
         for (int i = 0; i < formSize; ++i) {
-            host.add(100 + i, 22, i % 2);
-            auto *box = new CfgCheckBox(&form);
-            box->setReference(&host, 100 + i, nullptr, {});
-            box->updateControl(1);
-            boxes.append(box);
+            const int ref = firstRef + i;
+            MainConfigObject &object = host.add(ref, 4, 10u);
+            object.minimum = 0u;
+            object.maximum = 100u;
+            object.step = 5;
+            object.options = {{0, {"5", "5"}}, {1, {"10", "10"}}, {2, {"15", "15"}}};
+            host.stored[ref] = QStringLiteral("10");
+            switch (kind == Mixed ? i % Mixed : kind) {
+            case CheckBox:
+                add<CfgCheckBox>(ref);
+                break;
+            case ComboBox:
+                add<CfgComboBox>(ref);
+                break;
+            case LineEdit:
+                add<CfgLineEdit>(ref);
+                break;
+            case SpinBox:
+                add<CfgSpinBox>(ref);
+                break;
+            case DoubleSpinBox:
+                add<CfgDoubleSpinBox>(ref);
+                break;
+            case RadioButton:
+                add<CfgRadioButton>(ref);
+                break;
+            }
         }
+    }
+    template <class Control> void add(int ref)
+    {
+        auto *control = new Control(&form);
+        control->setReference(&host, ref, nullptr, {});
+        control->updateControl(1);
+        std::get<QList<Control *>>(controls).append(control);
+    }
+    template <class Control> void refresh(const QList<Control *> &list)
+    {
+        for (Control *control : list)
+            control->updateControl(0);
     }
     void refresh()
     {
-        for (CfgCheckBox *box : boxes)
-            box->updateControl(0);
+        std::apply([this](const auto &...lists) { (refresh(lists), ...); }, controls);
+    }
+    // Every control's answer flips: isModified for five kinds, matchesStored for the combo.
+    void flipAnswers(bool changed)
+    {
+        for (int i = 0; i < formSize; ++i) {
+            const int ref = firstRef + i;
+            if (changed)
+                host.modified.insert(ref);
+            else
+                host.modified.remove(ref);
+            host.stored[ref] = changed ? QStringLiteral("15") : QStringLiteral("10");
+        }
     }
 };
 
-void BM_CheckBoxRefreshNoChange(benchmark::State &state)
+void BM_RefreshNoChange(benchmark::State &state)
 {
-    CheckBoxForm form;
+    Form form(int(state.range(0)));
+    state.SetLabel(kindNames[state.range(0)]);
     for (auto _ : state)
         form.refresh();
     state.SetItemsProcessed(state.iterations() * formSize);
 }
-BENCHMARK(BM_CheckBoxRefreshNoChange)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_RefreshNoChange)->DenseRange(CheckBox, Mixed)->Unit(benchmark::kMicrosecond);
 
-void BM_CheckBoxRefreshEveryColour(benchmark::State &state)
+void BM_RefreshEveryColour(benchmark::State &state)
 {
-    CheckBoxForm form;
-    bool modified = false;
+    Form form(int(state.range(0)));
+    state.SetLabel(kindNames[state.range(0)]);
+    bool changed = false;
     for (auto _ : state) {
-        modified = !modified;
-        for (int i = 0; i < formSize; ++i) {
-            if (modified)
-                form.host.modified.insert(100 + i);
-            else
-                form.host.modified.remove(100 + i);
-        }
+        state.PauseTiming();
+        changed = !changed;
+        form.flipAnswers(changed);
+        state.ResumeTiming();
         form.refresh();
     }
     state.SetItemsProcessed(state.iterations() * formSize);
 }
-BENCHMARK(BM_CheckBoxRefreshEveryColour)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_RefreshEveryColour)->DenseRange(CheckBox, Mixed)->Unit(benchmark::kMicrosecond);
 
 void BM_MapperRevert(benchmark::State &state)
 {
@@ -82,8 +140,8 @@ BENCHMARK(BM_MapperRevert)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen"
-                                                                     : qgetenv("QT_QPA_PLATFORM"));
+    qputenv("QT_QPA_PLATFORM",
+            qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     QApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -1,14 +1,16 @@
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/dialogs/licence_p.h"
 
+#include <QLocale>
 #include <QWidget>
 
-void BoundControl::bind(MainConfigIFace *boundIface, int ref, const QList<QWidget *> &related)
+bool BoundControl::bind(MainConfigIFace *boundIface, int ref, const QList<QWidget *> &related)
 {
     iface = boundIface;
-    reference = ref;
+    reference = boundIface ? ref : 0;
     relatedWidgets = related;
     error = false;
+    return iface != nullptr;
 }
 
 void BoundControl::registerIn(QWidget *control, QWidget *label) const
@@ -72,4 +74,11 @@ void applyStyleSheet(QWidget *widget, const QString &sheet)
 {
     if (widget->styleSheet() != sheet)
         widget->setStyleSheet(sheet);
+}
+
+bool systemLocaleUsesPoint()
+{
+    bool parsed = false;
+    QLocale::system().toDouble(QStringLiteral("1.1"), &parsed);
+    return parsed;
 }

@@ -24,8 +24,9 @@ public:
     int hardwareId = 0;
     bool error = false;
 
-    // Stores the binding and clears `error`.
-    void bind(MainConfigIFace *iface, int ref, const QList<QWidget *> &related);
+    // Stores the binding and clears `error`. False for a null interface: the control then
+    // stays unbound and the caller stops.
+    bool bind(MainConfigIFace *iface, int ref, const QList<QWidget *> &related);
     // The bound record, fetched anew at every call (the host may rebuild it).
     MainConfigObject &record() const { return iface->object(reference); }
     // Writes `control` and `label` into the bound record.
@@ -51,3 +52,7 @@ public:
 // Applies a style sheet unless the widget already holds exactly this one: re-applying an
 // equal sheet makes the toolkit re-polish the widget for nothing.
 void applyStyleSheet(QWidget *widget, const QString &sheet);
+
+// Whether the system locale reads "1.1" as a number, i.e. writes decimals with a point
+// (else they are taken to use a comma). Asked anew each time, like the locale itself.
+bool systemLocaleUsesPoint();

@@ -43,7 +43,8 @@ CfgCheckBox::~CfgCheckBox() = default;
 void CfgCheckBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                QList<QWidget *> relatedWidgets)
 {
-    bound.bind(iface, ref, relatedWidgets);
+    if (!bound.bind(iface, ref, relatedWidgets))
+        return;
     setToolTip(bound.record().toolTip);
     const MainConfigObject &object = bound.record();
     const bool on = object.type == 22 ? object.value.toUInt() != 0 : object.value.toBool();

@@ -31,6 +31,12 @@ private slots:
     void errorFlag();
     void rebuiltRecordIsRefetched_data() { kinds(); }
     void rebuiltRecordIsRefetched();
+    void lookFollowsErrorAndEnabled_data();
+    void lookFollowsErrorAndEnabled();
+    void editsReachTheLiveRecord_data() { kinds(); }
+    void editsReachTheLiveRecord();
+    void unboundOrNullInterfaceNeverCrashes_data() { kinds(); }
+    void unboundOrNullInterfaceNeverCrashes();
 
 private:
     static void kinds();
@@ -249,6 +255,105 @@ void TestBoundProtocol::rebuiltRecordIsRefetched()
     host.add(10, 1, 1).hidden = true;
     control.updateControl(0);
     QVERIFY(!control.widget->isVisible());
+}
+
+void TestBoundProtocol::lookFollowsErrorAndEnabled_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("errorPaints");
+    QTest::addColumn<bool>("enabledPaints");
+
+    // Deliberately uneven: only these two show `error`, only these two the enabled state.
+    const QMap<QString, QPair<bool, bool>> looks{
+        {"checkbox", {false, true}},       {"combobox", {true, true}},
+        {"lineedit", {true, false}},       {"spinbox", {false, false}},
+        {"doublespinbox", {false, false}}, {"radiobutton", {false, false}},
+    };
+    for (const QString &kind : anyControlKinds()) {
+        QVERIFY2(looks.contains(kind), qPrintable(kind));
+        QTest::newRow(qPrintable(kind)) << kind << looks[kind].first << looks[kind].second;
+    }
+}
+
+void TestBoundProtocol::lookFollowsErrorAndEnabled()
+{
+    QFETCH(QString, kind);
+    QFETCH(bool, errorPaints);
+    QFETCH(bool, enabledPaints);
+
+    TestHost host;
+    host.add(10, 1, 1);
+    AnyControl control = makeAnyControl(kind);
+    control.setReference(&host, 10, nullptr, {});
+    control.updateControl(1);
+    const QString normal = control.widget->styleSheet();
+    QVERIFY(!normal.isEmpty());
+
+    control.setError(true);
+    QCOMPARE(control.widget->styleSheet(), normal); // setError alone repaints nothing
+    control.updateControl(0);
+    QCOMPARE(control.widget->styleSheet() != normal, errorPaints);
+    control.setError(false);
+    control.updateControl(0);
+    QCOMPARE(control.widget->styleSheet(), normal);
+
+    control.setEnabled(false);
+    QCOMPARE(control.widget->styleSheet() != normal, enabledPaints);
+}
+
+void TestBoundProtocol::editsReachTheLiveRecord()
+{
+    QFETCH(QString, kind);
+    TestHost host;
+    auto addRecord = [&host] {
+        MainConfigObject &object = host.add(10, 4, 1u);
+        object.minimum = 0u;
+        object.maximum = 10u;
+        object.step = 1;
+        object.options = {{0, {"zero", "0"}}, {1, {"one", "1"}}};
+    };
+    addRecord();
+    AnyControl control = makeAnyControl(kind);
+    control.setReference(&host, 10, nullptr, {});
+    control.updateControl(1);
+    host.writes.clear();
+    control.userEdit();
+    QVERIFY(!host.writes.isEmpty());
+    for (const TestHost::Write &write : qAsConst(host.writes))
+        QCOMPARE(write.ref, 10);
+
+    // The host rebuilds its table between two edits: the next one goes to the new record.
+    host.records.clear();
+    host.setVersion(10);
+    addRecord();
+    host.writes.clear();
+    control.userEdit();
+    QVERIFY(!host.writes.isEmpty());
+    QCOMPARE(host.records[10].control, nullptr); // binding is not repeated behind its back
+}
+
+void TestBoundProtocol::unboundOrNullInterfaceNeverCrashes()
+{
+    QFETCH(QString, kind);
+    AnyControl control = makeAnyControl(kind);
+    QLabel label;
+    auto exercise = [&] {
+        control.updateControl(3);
+        control.userEdit();
+        control.setEnabled(false);
+        control.updateEnableState(false);
+        control.updateEnableState(true);
+        control.setEnabled(true);
+        control.setHidden(true);
+        control.setHidden(false);
+        control.setError(true);
+        control.updateControl(0);
+        control.userEdit();
+    };
+    exercise();
+    control.setReference(nullptr, 10, &label, {&label}); // a host passing no table
+    exercise();
+    QVERIFY(control.widget->isEnabled());
 }
 
 QTEST_MAIN(TestBoundProtocol)

@@ -107,8 +107,8 @@ void TestCfgCheckBox::styleSheets_data()
     QTest::addColumn<bool>("modified");
     QTest::addColumn<QString>("sheet");
 
-    const QString hover = QStringLiteral(
-        "QCheckBox::indicator:unchecked:hover {image: url(:/images/checkbox_unchecked_hover.png);}");
+    const QString hover = QStringLiteral("QCheckBox::indicator:unchecked:hover {image: "
+                                         "url(:/images/checkbox_unchecked_hover.png);}");
     const QString checkedHover = QStringLiteral(
         "QCheckBox::indicator:checked:hover {image: url(:/images/checkbox_checked_hover.png);}");
     auto sheet = [&](const QString &unchecked, const QString &checked, const QString &sep) {

@@ -18,10 +18,11 @@ struct AnyControl
     std::function<void(bool)> setHidden;
     std::function<void(bool)> setError;
     std::function<bool()> isError;
+    // One edit through the widget's own change path, as the user makes it.
+    std::function<void()> userEdit;
 };
 
-template <class Control>
-AnyControl makeAnyControl()
+template <class Control> AnyControl makeAnyControl()
 {
     AnyControl any;
     auto *control = new Control;

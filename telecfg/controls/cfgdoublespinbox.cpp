@@ -1,0 +1,115 @@
+#include "telecfg/controls/cfgdoublespinbox.h"
+
+#include <QLocale>
+#include <cmath>
+
+namespace {
+const QString &doubleSpinSheet(int state)
+{
+    static const QString sheets[3] = {
+        QStringLiteral("QDoubleSpinBox{background: red;}"),
+        QStringLiteral("QDoubleSpinBox{background: yellow;}"),
+        QStringLiteral("QDoubleSpinBox{background: white;}"),
+    };
+    return sheets[state];
+}
+enum { Red, Yellow, White };
+
+double systemDouble(const QString &text)
+{
+    return QLocale::system().toDouble(text);
+}
+} // namespace
+
+CfgDoubleSpinBox::CfgDoubleSpinBox(QWidget *parent) : QDoubleSpinBox(parent)
+{
+    connect(this, SIGNAL(valueChanged(const QString &)), this, SLOT(updateValue(QString)));
+}
+
+CfgDoubleSpinBox::~CfgDoubleSpinBox() = default;
+
+void CfgDoubleSpinBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
+                                    QList<QWidget *> relatedWidgets)
+{
+    if (!bound.bind(iface, ref, relatedWidgets))
+        return;
+    setToolTip(bound.record().toolTip);
+    setSingleStep(double(quint32(bound.record().step)));
+    // The value is read before the bounds are set: each bound's echo reaches the host's
+    // setValue and would otherwise replace the value about to be shown.
+    const QVariant value = iface->value(ref);
+    if (bound.record().type == 21) {
+        setMinimum(double(bound.record().minimum.toInt()));
+        setMaximum(double(bound.record().maximum.toInt()));
+        setValue(double(value.toInt()));
+    } else {
+        // Only the value is adapted to the locale's separator; a bound written with the
+        // other one parses as 0. Deliberate.
+        setMinimum(systemDouble(bound.record().minimum.toString()));
+        setMaximum(systemDouble(bound.record().maximum.toString()));
+        QString text = value.toString();
+        if (systemLocaleUsesPoint())
+            text.replace(QLatin1Char(','), QLatin1Char('.'));
+        else
+            text.replace(QLatin1Char('.'), QLatin1Char(','));
+        setValue(systemDouble(text));
+    }
+    bound.registerIn(this, label);
+}
+
+void CfgDoubleSpinBox::updateValue(QString val)
+{
+    if (!bound.iface)
+        return;
+    // Single precision is part of the rule: within a float's reach a near multiple passes.
+    float whole = 0;
+    const float fraction = std::modf(float(systemDouble(val) / singleStep()), &whole);
+    if (fraction != 0.0f || std::isnan(fraction)) {
+        applyStyleSheet(this, doubleSpinSheet(Red));
+        return;
+    }
+    bound.iface->setValue(bound.reference, QVariant(systemDouble(val)));
+    updateControl(0);
+}
+
+void CfgDoubleSpinBox::updateControl(int hardwareId)
+{
+    if (!bound.refreshVisibility(this, hardwareId))
+        return;
+    // The step rule is not repeated here: a refused edit's red lasts until this refresh.
+    MainConfigIFace *iface = bound.iface;
+    int state = White;
+    if (!iface->isValid(bound.reference))
+        state = Red;
+    else if (iface->isModified(bound.reference))
+        state = Yellow;
+    applyStyleSheet(this, doubleSpinSheet(state));
+}
+
+void CfgDoubleSpinBox::setError(bool error)
+{
+    bound.error = error;
+}
+
+bool CfgDoubleSpinBox::isError()
+{
+    return bound.error;
+}
+
+void CfgDoubleSpinBox::setEnabled(bool bEnable)
+{
+    bound.setEnabled(this, bEnable);
+    updateControl(0);
+}
+
+void CfgDoubleSpinBox::updateEnableState(bool state)
+{
+    bound.updateEnableState(this, state);
+    updateControl(0);
+}
+
+void CfgDoubleSpinBox::setHidden(bool hidden)
+{
+    if (bound.setHidden(this, hidden))
+        updateControl(0);
+}

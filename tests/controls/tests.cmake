@@ -1,0 +1,10 @@
+# The line edit's patterns and the decimal spin box follow the system locale, which the
+# toolkit reads from the environment at start-up: run their suites under a point locale
+# and again under a comma one.
+foreach(suite tst_cfglineedit tst_cfgdoublespinbox)
+    set_tests_properties(${suite} PROPERTIES ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C;LANG=C")
+    add_test(NAME ${suite}_comma COMMAND ${suite})
+    set_tests_properties(${suite}_comma PROPERTIES ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=pl_PL.UTF-8;LANG=pl_PL.UTF-8")
+endforeach()

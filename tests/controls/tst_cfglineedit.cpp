@@ -1,0 +1,295 @@
+// Decimal patterns follow the system locale, which the toolkit reads from the environment
+// at start-up: CTest runs this suite once with a point locale and once with a comma one.
+#include "telecfg/controls/cfglineedit.h"
+#include "tests/support/testhost.h"
+
+#include <QValidator>
+#include <QtTest>
+
+namespace {
+const QString red = QStringLiteral("QLineEdit{background: red;}");
+const QString yellow = QStringLiteral("QLineEdit{background: yellow;}");
+const QString white = QStringLiteral("QLineEdit{background: white;}");
+
+bool pointLocale()
+{
+    return QLocale::system().decimalPoint() == QLatin1Char('.');
+}
+} // namespace
+
+class TestCfgLineEdit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void validators_data();
+    void validators();
+    void bindingShowsAndEchoes_data();
+    void bindingShowsAndEchoes();
+    void edits_data();
+    void edits();
+    void typingWritesEachText();
+    void painting_data();
+    void painting();
+    void displayTextWritesNothing();
+};
+
+void TestCfgLineEdit::initTestCase()
+{
+    // The widgets' own locale follows the system one, as in a host.
+    QLocale::setDefault(QLocale::system());
+    qInfo("system locale %s, decimal point '%s'", qPrintable(QLocale::system().name()),
+          qPrintable(QString(QLocale::system().decimalPoint())));
+}
+
+void TestCfgLineEdit::validators_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("acceptable");
+
+    const char *sep = pointLocale() ? "." : ",";
+    const char *other = pointLocale() ? "," : ".";
+    struct Row
+    {
+        int type;
+        QString text;
+        bool acceptable;
+    };
+    const Row rows[] = {
+        {4, "-12", true},
+        {7, "12", true},
+        {21, "-", false},
+        {28, "1-2", false},
+        {1, "12", true},
+        {2, "-12", false},
+        {6, "1a", false},
+        {11, "007", true},
+        {3, QString("1") + sep + "25", true},
+        {15, QString("1") + other + "25", false},
+        {18, QString("1") + sep + "12345", true},
+        {18, QString("1") + sep + "123456", false},
+        {3, "-1", false},
+        {30, QString("-1") + sep + "5", true},
+        {30, QString("-1") + other + "5", false},
+        {30, "-15", true},
+        {10, "192.168.0.1", true},
+        {19, "255.255.255.255", true},
+        {10, "256.1.1.1", false},
+        {10, "1.2.3", false},
+        {12, "+48600100200", true},
+        {12, "1-2-", true},
+        {12, "-123", false},
+        {12, "123", false},
+        {12, "++1", false},
+        {12, "123456789012345678901234567890", false},
+        {16, "Auto 12+", true},
+        {16, "a_b^c", true},
+        {16, "a{b", false},
+        {16, "zażółć", false},
+        {16, "", false},
+        {17, "a-b?@#%^*()=_<>,./~`'", true},
+        {17, "a\"b", true},
+        {17, "a{b", false},
+        {17, "a|b", false},
+        {0, "anything ~{|}", true},
+        {99, "ąę", true},
+    };
+    for (const Row &row : rows)
+        QTest::addRow("type %d: '%s'", row.type, qPrintable(row.text))
+            << row.type << row.text << row.acceptable;
+}
+
+void TestCfgLineEdit::validators()
+{
+    QFETCH(int, type);
+    QFETCH(QString, text);
+    QFETCH(bool, acceptable);
+
+    TestHost host;
+    host.add(10, type, QString());
+    CfgLineEdit edit;
+    edit.setReference(&host, 10, nullptr, {});
+    int pos = 0;
+    const QValidator::State state =
+        edit.validator() ? edit.validator()->validate(text, pos) : QValidator::Acceptable;
+    QCOMPARE(state == QValidator::Acceptable, acceptable);
+}
+
+void TestCfgLineEdit::bindingShowsAndEchoes_data()
+{
+    QTest::addColumn<int>("ref");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariantList>("writes");
+
+    QTest::newRow("number echoes as text") << 10 << QVariant(42u) << "42" << QVariantList{"42"};
+    QTest::newRow("invalid value shows nothing") << 10 << QVariant() << "" << QVariantList();
+    QTest::newRow("refused by validator still shown")
+        << 10 << QVariant("12ab") << "12ab" << QVariantList{"12ab"};
+    QTest::newRow("blank at end shown, not written")
+        << 10 << QVariant("12 ") << "12 " << QVariantList();
+    QTest::newRow("wrong type shows nothing")
+        << 10 << QVariant(QSize(1, 2)) << "" << QVariantList();
+    QTest::newRow("parameter 4 special value")
+        << 4 << QVariant(0xFFFFFFFFu) << "4294967295" << QVariantList{"4294967295"};
+}
+
+void TestCfgLineEdit::bindingShowsAndEchoes()
+{
+    QFETCH(int, ref);
+    QFETCH(QVariant, value);
+    QFETCH(QString, text);
+    QFETCH(QVariantList, writes);
+
+    TestHost host;
+    host.add(ref, 1, value).toolTip = QStringLiteral("Nazwa Bluetooth");
+    host.storeWrites = false;
+    CfgLineEdit edit;
+    edit.setReference(&host, ref, nullptr, {});
+    QCOMPARE(edit.text(), text);
+    QCOMPARE(edit.toolTip(), QStringLiteral("Nazwa Bluetooth"));
+    QCOMPARE(host.records[ref].control, &edit);
+    QCOMPARE(host.writes.size(), writes.size());
+    for (int i = 0; i < writes.size(); ++i) {
+        QCOMPARE(host.writes[i].value.userType(), int(QMetaType::QString));
+        QCOMPARE(host.writes[i].value, writes[i]);
+    }
+}
+
+void TestCfgLineEdit::edits_data()
+{
+    QTest::addColumn<int>("ref");
+    QTest::addColumn<bool>("error");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("written"); // invalid: nothing written
+    QTest::addColumn<QString>("sheet");
+
+    QTest::newRow("text written as string") << 10 << false << "123" << QVariant("123") << yellow;
+    QTest::newRow("inner blank accepted") << 10 << false << "a b" << QVariant("a b") << yellow;
+    QTest::newRow("leading blank refused") << 10 << false << " ab" << QVariant() << red;
+    QTest::newRow("trailing blank refused") << 10 << false << "ab " << QVariant() << red;
+    QTest::newRow("single blank refused") << 10 << false << " " << QVariant() << red;
+    QTest::newRow("empty written as string") << 10 << false << "" << QVariant("") << yellow;
+    QTest::newRow("error blocks the edit") << 10 << true << "123" << QVariant() << red;
+    QTest::newRow("parameter 4 emptied") << 4 << false << "" << QVariant(0xFFFFFFFFu) << white;
+    QTest::newRow("parameter 4 emptied, error")
+        << 4 << true << "" << QVariant(0xFFFFFFFFu) << white;
+    QTest::newRow("parameter 4 text") << 4 << false << "7" << QVariant("7") << yellow;
+}
+
+void TestCfgLineEdit::edits()
+{
+    QFETCH(int, ref);
+    QFETCH(bool, error);
+    QFETCH(QString, text);
+    QFETCH(QVariant, written);
+    QFETCH(QString, sheet);
+
+    TestHost host;
+    host.add(ref, 0, "start");
+    host.onWrite = [&](int r, const QVariant &) { host.modified.insert(r); };
+    CfgLineEdit edit;
+    edit.setReference(&host, ref, nullptr, {});
+    host.writes.clear();
+    host.modified.clear();
+    edit.updateControl(1);
+    QCOMPARE(edit.styleSheet(), white);
+    edit.setError(error);
+    edit.setText(text); // the public slot: an edit like the user's
+
+    if (written.isValid()) {
+        QCOMPARE(host.writes.size(), 1);
+        QCOMPARE(host.writes[0].ref, ref);
+        QCOMPARE(host.writes[0].value.userType(), written.userType());
+        QCOMPARE(host.writes[0].value, written);
+    } else {
+        QVERIFY(host.writes.isEmpty());
+        QCOMPARE(host.records[ref].value, QVariant("start"));
+    }
+    QCOMPARE(edit.styleSheet(), sheet);
+}
+
+void TestCfgLineEdit::typingWritesEachText()
+{
+    TestHost host;
+    host.add(4, 1, 12u);
+    CfgLineEdit edit;
+    edit.setReference(&host, 4, nullptr, {});
+    host.writes.clear();
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    edit.setFocus();
+    edit.end(false);
+    QTest::keyClicks(&edit, "3x4"); // the validator swallows the letter
+    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+
+    const QVariantList expected{"123", "1234", 0xFFFFFFFFu};
+    QCOMPARE(host.writes.size(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) {
+        QCOMPARE(host.writes[i].value.userType(), expected[i].userType());
+        QCOMPARE(host.writes[i].value, expected[i]);
+    }
+}
+
+void TestCfgLineEdit::painting_data()
+{
+    QTest::addColumn<bool>("bound");
+    QTest::addColumn<bool>("error");
+    QTest::addColumn<bool>("valid");
+    QTest::addColumn<bool>("modified");
+    QTest::addColumn<QString>("sheet");
+
+    QTest::newRow("plain") << true << false << true << false << white;
+    QTest::newRow("modified") << true << false << true << true << yellow;
+    QTest::newRow("invalid wins") << true << false << false << true << red;
+    QTest::newRow("error wins") << true << true << true << true << red;
+    QTest::newRow("unbound") << false << false << true << false << white;
+    QTest::newRow("unbound with error") << false << true << true << false << red;
+}
+
+void TestCfgLineEdit::painting()
+{
+    QFETCH(bool, bound);
+    QFETCH(bool, error);
+    QFETCH(bool, valid);
+    QFETCH(bool, modified);
+    QFETCH(QString, sheet);
+
+    TestHost host;
+    host.add(10, 1, 5u);
+    if (!valid)
+        host.invalid.insert(10);
+    if (modified)
+        host.modified.insert(10);
+    CfgLineEdit edit;
+    if (bound)
+        edit.setReference(&host, 10, nullptr, {});
+    edit.setError(error);
+    edit.updateControl(1);
+    QCOMPARE(edit.styleSheet(), sheet);
+}
+
+void TestCfgLineEdit::displayTextWritesNothing()
+{
+    TestHost host;
+    host.add(10, 1, 5u);
+    CfgLineEdit edit;
+    edit.setReference(&host, 10, nullptr, {});
+    edit.updateControl(1);
+    host.writes.clear();
+    host.modified.insert(10);
+    edit.displayText(QStringLiteral("77"));
+    QCOMPARE(edit.text(), QStringLiteral("77"));
+    QVERIFY(host.writes.isEmpty());
+    QCOMPARE(edit.styleSheet(), white);
+    // Still connected afterwards.
+    edit.setText(QStringLiteral("78"));
+    QCOMPARE(host.writes.size(), 1);
+    QCOMPARE(edit.styleSheet(), yellow);
+}
+
+QTEST_MAIN(TestCfgLineEdit)
+#include "tst_cfglineedit.moc"

@@ -1,0 +1,182 @@
+#include "telecfg/controls/cfgspinbox.h"
+#include "tests/support/testhost.h"
+
+#include <QLineEdit>
+#include <QtTest>
+
+namespace {
+const QString red = QStringLiteral("QSpinBox{background: red;}");
+const QString yellow = QStringLiteral("QSpinBox{background: yellow;}");
+const QString white = QStringLiteral("QSpinBox{background: white;}");
+} // namespace
+
+class TestCfgSpinBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void binding_data();
+    void binding();
+    void colour_data();
+    void colour();
+    void keyEditsWriteInts_data();
+    void keyEditsWriteInts();
+};
+
+void TestCfgSpinBox::binding_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QVariant>("minimum");
+    QTest::addColumn<QVariant>("maximum");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<int>("shownMin");
+    QTest::addColumn<int>("shownMax");
+    QTest::addColumn<int>("shown");
+
+    QTest::newRow("value inside raised bounds")
+        << 1 << QVariant(200u) << QVariant(300u) << QVariant(250u) << 200 << 300 << 250;
+    QTest::newRow("value above maximum clamped")
+        << 1 << QVariant(0u) << QVariant(300u) << QVariant(500u) << 0 << 300 << 300;
+    QTest::newRow("signed bounds")
+        << 21 << QVariant(-50) << QVariant(50) << QVariant(-20) << -50 << 50 << -20;
+    QTest::newRow("unsigned -1 reads huge, wraps")
+        << 1 << QVariant(0u) << QVariant(0xFFFFFFFFu) << QVariant(7u) << -1 << -1 << -1;
+    QTest::newRow("numbers as text")
+        << 1 << QVariant("10") << QVariant("90") << QVariant("35") << 10 << 90 << 35;
+    QTest::newRow("signed text with minus, unsigned type")
+        << 1 << QVariant("-5") << QVariant(10) << QVariant(3) << 0 << 10 << 3;
+    QTest::newRow("wrong types read 0") << 21 << QVariant(QSize()) << QVariant(QStringList())
+                                        << QVariant(QSize(3, 4)) << 0 << 0 << 0;
+}
+
+void TestCfgSpinBox::binding()
+{
+    QFETCH(int, type);
+    QFETCH(QVariant, minimum);
+    QFETCH(QVariant, maximum);
+    QFETCH(QVariant, value);
+    QFETCH(int, shownMin);
+    QFETCH(int, shownMax);
+    QFETCH(int, shown);
+
+    TestHost host;
+    MainConfigObject &object = host.add(10, type, value);
+    object.minimum = minimum;
+    object.maximum = maximum;
+    object.step = 5;
+    object.toolTip = QStringLiteral("Pojemność zbiornika");
+    CfgSpinBox box;
+    box.setReference(&host, 10, nullptr, {});
+    QCOMPARE(box.minimum(), shownMin);
+    QCOMPARE(box.maximum(), shownMax);
+    QCOMPARE(box.value(), shown);
+    QCOMPARE(box.singleStep(), 5);
+    QCOMPARE(box.toolTip(), QStringLiteral("Pojemność zbiornika"));
+    QCOMPARE(host.records[10].control, &box);
+    // Every change binding makes is echoed to the host as an int; the last echo is
+    // the value shown, so a storing host ends up holding it.
+    for (const TestHost::Write &write : qAsConst(host.writes))
+        QCOMPARE(write.value.userType(), int(QMetaType::Int));
+    if (!host.writes.isEmpty())
+        QCOMPARE(host.writes.last().value, QVariant(shown));
+}
+
+void TestCfgSpinBox::colour_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<bool>("valid");
+    QTest::addColumn<bool>("modified");
+    QTest::addColumn<bool>("error");
+    QTest::addColumn<QString>("sheet");
+
+    QTest::newRow("multiple") << 1 << 5 << QVariant(20) << true << false << false << white;
+    QTest::newRow("multiple, modified")
+        << 1 << 5 << QVariant(20) << true << true << false << yellow;
+    QTest::newRow("no multiple, red though valid")
+        << 1 << 5 << QVariant(22) << true << true << false << red;
+    QTest::newRow("invalid") << 1 << 5 << QVariant(20) << false << false << false << red;
+    QTest::newRow("error has no effect")
+        << 1 << 5 << QVariant(20) << true << false << true << white;
+    // Negative values are divided by their unsigned reading.
+    QTest::newRow("-4 by 3: unsigned reading divides")
+        << 21 << 3 << QVariant(-4) << true << false << false << white;
+    QTest::newRow("-3 by 3: unsigned reading does not")
+        << 21 << 3 << QVariant(-3) << true << false << false << red;
+    QTest::newRow("step 0: no rule, no crash")
+        << 1 << 0 << QVariant(7) << true << false << false << white;
+    QTest::newRow("value as text") << 1 << 4 << QVariant("12") << true << false << false << white;
+}
+
+void TestCfgSpinBox::colour()
+{
+    QFETCH(int, type);
+    QFETCH(int, step);
+    QFETCH(QVariant, value);
+    QFETCH(bool, valid);
+    QFETCH(bool, modified);
+    QFETCH(bool, error);
+    QFETCH(QString, sheet);
+
+    TestHost host;
+    MainConfigObject &object = host.add(10, type, value);
+    object.minimum = -100;
+    object.maximum = 100;
+    object.step = step;
+    host.storeWrites = false; // the host keeps exactly the value of the row
+    if (!valid)
+        host.invalid.insert(10);
+    if (modified)
+        host.modified.insert(10);
+    CfgSpinBox box;
+    box.setReference(&host, 10, nullptr, {});
+    box.setError(error);
+    box.setEnabled(false); // the look ignores the enabled state
+    box.updateControl(1);
+    QCOMPARE(box.styleSheet(), sheet);
+}
+
+void TestCfgSpinBox::keyEditsWriteInts_data()
+{
+    QTest::addColumn<QString>("typed"); // empty: one arrow key up instead
+    QTest::addColumn<int>("written");
+    QTest::addColumn<QString>("sheet");
+
+    QTest::newRow("arrow up one step") << QString() << 15 << white;
+    QTest::newRow("typed multiple") << "40" << 40 << white;
+    QTest::newRow("typed no multiple: written, red") << "42" << 42 << red;
+}
+
+void TestCfgSpinBox::keyEditsWriteInts()
+{
+    QFETCH(QString, typed);
+    QFETCH(int, written);
+    QFETCH(QString, sheet);
+
+    TestHost host;
+    MainConfigObject &object = host.add(10, 1, 10u);
+    object.minimum = 0u;
+    object.maximum = 100u;
+    object.step = 5;
+    CfgSpinBox box;
+    box.setReference(&host, 10, nullptr, {});
+    box.updateControl(1);
+    host.writes.clear();
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    box.setFocus();
+    if (typed.isEmpty()) {
+        QTest::keyClick(&box, Qt::Key_Up);
+    } else {
+        box.selectAll();
+        QTest::keyClicks(&box, typed);
+    }
+    QVERIFY(!host.writes.isEmpty());
+    QCOMPARE(host.writes.last().value.userType(), int(QMetaType::Int));
+    QCOMPARE(host.writes.last().value, QVariant(written));
+    QCOMPARE(box.styleSheet(), sheet);
+}
+
+QTEST_MAIN(TestCfgSpinBox)
+#include "tst_cfgspinbox.moc"
