@@ -1,6 +1,11 @@
 #include "controlfactory.h"
 
 #include "telecfg/controls/cfgcheckbox.h"
+#include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/controls/cfglineedit.h"
+#include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/controls/cfgspinbox.h"
 
 namespace {
 template <class Control>
@@ -15,12 +20,30 @@ FormControl makeControl(MainConfigIFace *table, int ref, QWidget *label, Control
 }
 } // namespace
 
-FormControl createFormControl(const QString &kind, MainConfigIFace *table, int ref,
-                              const QString &text, QWidget *label, QWidget *parent)
+FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigIFace *table,
+                              QWidget *label, QWidget *parent)
 {
+    const QString &kind = parameter.control;
+    const int ref = parameter.ref;
     if (kind == QLatin1String("checkbox")) {
         auto *box = new CfgCheckBox(parent);
-        box->setText(text);
+        box->setText(parameter.text);
+        return makeControl(table, ref, label, box);
+    }
+    if (kind == QLatin1String("radiobutton")) {
+        auto *button = new CfgRadioButton(parent);
+        button->setText(parameter.text);
+        return makeControl(table, ref, label, button);
+    }
+    if (kind == QLatin1String("combobox"))
+        return makeControl(table, ref, label, new CfgComboBox(parent));
+    if (kind == QLatin1String("lineedit"))
+        return makeControl(table, ref, label, new CfgLineEdit(parent));
+    if (kind == QLatin1String("spinbox"))
+        return makeControl(table, ref, label, new CfgSpinBox(parent));
+    if (kind == QLatin1String("doublespinbox")) {
+        auto *box = new CfgDoubleSpinBox(parent);
+        box->setDecimals(parameter.decimals); // the host's choice, not the library's
         return makeControl(table, ref, label, box);
     }
     return {};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "telecfg/config/mainconfig.h"
+#include "demotable.h"
 
 #include <QWidget>
 #include <functional>
@@ -15,7 +15,7 @@ struct FormControl
     std::function<void(int)> refresh;
 };
 
-// Creates the control named by `kind` ("checkbox", ...) for parameter `ref`, bound to
+// Creates the control the parameter's `control` names ("checkbox", "spinbox", ...), bound to
 // `table`. Returns a null widget for a kind the demo does not know.
-FormControl createFormControl(const QString &kind, MainConfigIFace *table, int ref,
-                              const QString &text, QWidget *label, QWidget *parent);
+FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigIFace *table,
+                              QWidget *label, QWidget *parent);

@@ -63,6 +63,7 @@ bool DemoTable::load(const QString &path, QString *error)
         parameter.label = json.value(QLatin1String("label")).toString();
         parameter.control = json.value(QLatin1String("control")).toString();
         parameter.text = json.value(QLatin1String("text")).toString();
+        parameter.decimals = json.value(QLatin1String("decimals")).toInt();
         parameter.rules = json.value(QLatin1String("rules")).toObject();
 
         MainConfigObject &object = records[parameter.ref];
@@ -146,10 +147,14 @@ void DemoTable::setValue(int ref, QVariant v)
         if (group.contains(ref)) {
             for (int member : group)
                 records[member].value = v;
+            if (onWrite)
+                onWrite(ref);
             return;
         }
     }
     records[ref].value = v;
+    if (onWrite)
+        onWrite(ref);
 }
 
 bool DemoTable::isValid(int ref)

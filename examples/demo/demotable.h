@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 #include <QStringList>
+#include <functional>
 
 // The demo's host table: parameter records loaded from a JSON device description, with a
 // stored and a current value per parameter. Modified means the two differ; valid means the
@@ -18,6 +19,7 @@ public:
         QString label;
         QString control; // "checkbox", "spinbox", ... or empty for parameters not shown
         QString text;    // text of a check box or radio button
+        int decimals = 0; // of a decimal spin box
         QJsonObject rules;
     };
     struct Hardware
@@ -28,6 +30,9 @@ public:
 
     // Loads a table; on failure returns false and says why in `error`.
     bool load(const QString &path, QString *error);
+
+    // Called after every value the controls write, so the host can bring its form up to date.
+    std::function<void(int)> onWrite;
 
     QString title;
     QStringList pages;

@@ -14,6 +14,7 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 
 DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
@@ -65,6 +66,14 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     setCentralWidget(tabs);
     buildPages();
     refresh();
+    // After each edit the whole form follows (other choices of a radio group, the summary);
+    // queued, so it runs once the control has finished its own edit.
+    table->onWrite = [this](int) {
+        if (!refreshQueued) {
+            refreshQueued = true;
+            QTimer::singleShot(0, this, &DemoWindow::refresh);
+        }
+    };
     resize(920, 560);
 }
 
@@ -87,8 +96,7 @@ void DemoWindow::buildPages()
             continue;
         QWidget *content = form->parentWidget();
         QLabel *label = parameter.label.isEmpty() ? nullptr : new QLabel(parameter.label, content);
-        FormControl control = createFormControl(parameter.control, table, parameter.ref,
-                                                parameter.text, label, content);
+        FormControl control = createFormControl(parameter, table, label, content);
         if (!control.widget) {
             qWarning("demo: parameter %d has an unknown control \"%s\"", parameter.ref,
                      qPrintable(parameter.control));
@@ -97,6 +105,8 @@ void DemoWindow::buildPages()
         }
         if (label)
             form->addRow(label, control.widget);
+        else if (parameter.control == QLatin1String("radiobutton"))
+            form->addRow(QString(), control.widget); // under the group's first choice
         else
             form->addRow(control.widget);
         control.bind();
@@ -111,6 +121,7 @@ int DemoWindow::hardwareId() const
 
 void DemoWindow::refresh()
 {
+    refreshQueued = false;
     for (const FormControl &control : qAsConst(controls))
         control.refresh(hardwareId());
     summary->setText(tr("Wersja %1, zmienione parametry: %2, błędne: %3")

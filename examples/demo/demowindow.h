@@ -42,4 +42,5 @@ private:
     QSpinBox *licenceBox;
     QLabel *summary;
     QList<FormControl> controls;
+    bool refreshQueued = false;
 };
