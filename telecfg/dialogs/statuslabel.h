@@ -13,7 +13,8 @@ class TELECFG_EXPORT StatusLabel : public QLabel
     Q_OBJECT
 
 public:
-    enum State {
+    // Any int is a valid State; values other than these show no colour.
+    enum State : int {
         StateNone = 0,
         StateGreen = 1,
         StateRed = 2,

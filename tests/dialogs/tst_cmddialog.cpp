@@ -137,16 +137,10 @@ void TestCmdDialog::typedCommand_data()
                                    << "Reset";
     QTest::newRow("leading space") << reset << " Reset"
                                    << " Reset";
-    QTest::newRow("tab separates") << reset << "reset\t5"
-                                   << "Reset 5";
-    QTest::newRow("unknown command") << reset << "status"
-                                     << "status";
     QTest::newRow("nothing typed") << reset << ""
                                    << "";
     QTest::newRow("no items") << Commands{} << "RESET 5"
                               << "RESET 5";
-    QTest::newRow("no items, nothing typed") << Commands{} << ""
-                                             << "";
     QTest::newRow("first key wins") << Commands{{1, "Out 1"}, {2, "OUT 1"}} << "out 1"
                                     << "Out 1";
     QTest::newRow("first key wins, reversed") << Commands{{1, "OUT 1"}, {2, "Out 1"}} << "out 1"
@@ -161,10 +155,7 @@ void TestCmdDialog::typedCommand()
 
     CmdDialog dialog(nullptr, commands);
     QComboBox *box = commandBox(&dialog);
-    if (typed.contains(QLatin1Char('\t')))
-        box->setEditText(typed); // a tab key would move the focus on instead
-    else
-        QTest::keyClicks(box->lineEdit(), typed);
+    QTest::keyClicks(box->lineEdit(), typed);
     QCOMPARE(box->currentText(), typed);
     QCOMPARE(dialog.getCmd(), expected);
 }
