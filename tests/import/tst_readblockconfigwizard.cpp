@@ -314,8 +314,9 @@ void TestReadBlockConfigWizard::results()
     QCOMPARE(left.size(), dialogsLeft);
     for (QDialog *dialog : left)
         QVERIFY(dialog->isHidden());
-    if (result == 0)
-        QCOMPARE(fuelSections(output), QList<int>({1, 2, 3, 4}));
+    // After 1 or 2 the fuel tabs are gone with their dialog: nothing is read from them.
+    QCOMPARE(fuelSections(output),
+             result == 0 ? QList<int>({1, 2, 3, 4}) : QList<int>({0, 0, 0, 0}));
 }
 
 void TestReadBlockConfigWizard::fileDialogSettings()
