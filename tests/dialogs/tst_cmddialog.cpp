@@ -190,6 +190,7 @@ void TestCmdDialog::execByButtons_data()
 
     QTest::newRow("OK") << int(QDialogButtonBox::Ok) << int(QDialog::Accepted);
     QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << int(QDialog::Rejected);
+    QTest::newRow("Enter in the list") << int(QDialogButtonBox::NoButton) << int(QDialog::Accepted);
 }
 
 void TestCmdDialog::execByButtons()
@@ -202,14 +203,17 @@ void TestCmdDialog::execByButtons()
     ModalCatcher catcher([button](QWidget *modal) {
         QComboBox *box = commandBox(modal);
         box->setCurrentIndex(1);
-        QTest::keyClicks(box->lineEdit(), QStringLiteral(" 2"));
+        QTest::keyClicks(box->lineEdit(), QStringLiteral("  2"));
         auto *buttons = modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
-        QTest::mouseClick(buttons->button(QDialogButtonBox::StandardButton(button)),
-                          Qt::LeftButton);
+        if (button == QDialogButtonBox::NoButton)
+            QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+        else
+            QTest::mouseClick(buttons->button(QDialogButtonBox::StandardButton(button)),
+                              Qt::LeftButton);
     });
     QCOMPARE(dialog.exec(), result);
     QCOMPARE(catcher.seen.size(), 1);
-    QCOMPARE(dialog.getCmd(), QStringLiteral("Get Speed 2"));
+    QCOMPARE(dialog.getCmd(), QStringLiteral("Get Speed  2"));
 }
 
 QTEST_MAIN(TestCmdDialog)
