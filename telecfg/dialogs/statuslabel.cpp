@@ -1,0 +1,70 @@
+#include "telecfg/dialogs/statuslabel.h"
+
+namespace {
+const int defaultHighlightMs = 2000;
+
+QString highlightFrame()
+{
+    return QStringLiteral("QFrame{border: 2px solid yellow;}");
+}
+
+// As wide as the highlight, fully transparent, so the text does not move when it comes.
+QString restingFrame()
+{
+    return QStringLiteral("QFrame{border: 2px solid rgba(255,255,255,0%);}");
+}
+} // namespace
+
+StatusLabel::StatusLabel(QWidget *parent) : QLabel(parent)
+{
+    timer.setSingleShot(true);
+    connect(&timer, SIGNAL(timeout()), this, SLOT(resetTimer()));
+}
+
+StatusLabel::~StatusLabel() = default;
+
+void StatusLabel::setValue(QVariant value, StatusLabel::State newState, bool highlight,
+                           int durationMs)
+{
+    const QString newText = value.toString();
+    if (text() == newText && newState == state && durationMs == 0)
+        return;
+
+    state = newState;
+    setText(newText);
+
+    QString sheet;
+    if (!highlight && durationMs == 0) {
+        resetTimer();
+        sheet = restingFrame();
+    } else {
+        sheet = highlightFrame();
+        // A negative duration would leave the frame up for good; it gets the default instead.
+        timer.start(durationMs > 0 ? durationMs : defaultHighlightMs);
+    }
+    setStyleSheet(sheet + addState());
+}
+
+void StatusLabel::resetTimer()
+{
+    setStyleSheet(restingFrame() + addState());
+    timer.stop();
+}
+
+QString StatusLabel::addState()
+{
+    switch (state) {
+    case StateNone:
+        return QStringLiteral("QLabel {};");
+    case StateGreen:
+        return QStringLiteral("QLabel { background-color : lightgreen};");
+    case StateRed:
+    case StateRedToo:
+        return QStringLiteral("QLabel { background-color : red};");
+    case StateYellow:
+        return QStringLiteral("QLabel { background-color : yellow};");
+    case StateOrange:
+        return QStringLiteral("QLabel { background-color : orange};");
+    }
+    return QString();
+}

@@ -1,0 +1,162 @@
+#include "telecfg/dialogs/dualinputdlg.h"
+#include "tests/support/contexttranslator.h"
+#include "tests/support/modalcatcher.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+// What stands in the field after the user typed `text`, and whether the field takes it.
+bool typedAndAcceptable(QLineEdit *edit, const QString &text)
+{
+    edit->clear();
+    QTest::keyClicks(edit, text);
+    return edit->text() == text && edit->hasAcceptableInput();
+}
+
+const char separatorVariable[] = "TELECFG_TEST_DECIMAL_POINT";
+} // namespace
+
+class TestDualInputDlg : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void form();
+    void fields_data();
+    void fields();
+    void fieldsInOtherLocales_data();
+    void fieldsInOtherLocales();
+    void presetBypassesValidatorAndMovesFocus();
+    void execReturnsTypedValues();
+};
+
+void TestDualInputDlg::form()
+{
+    ContextTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    DualInputDlg dialog(2);
+    QCoreApplication::removeTranslator(&translator);
+
+    QCOMPARE(dialog.objectName(), QStringLiteral("DualInputDlg"));
+    QCOMPARE(dialog.size(), QSize(261, 115));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("[DualInputDlg]Dialog"));
+    auto *label = dialog.findChild<QLabel *>(QStringLiteral("label"));
+    QVERIFY(label);
+    QCOMPARE(label->text(), QStringLiteral("[DualInputDlg]TextLabel"));
+
+    dialog.setLabels(QStringLiteral("Poziom"), QStringLiteral("Pojemność"));
+    QCOMPARE(label->text(), QStringLiteral("Poziom"));
+    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("label_2"))->text(),
+             QStringLiteral("Pojemność"));
+}
+
+void TestDualInputDlg::fields_data()
+{
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("withPoint");
+    QTest::addColumn<bool>("withComma");
+
+    const QString first = QStringLiteral("lineEdit");
+    const QString second = QStringLiteral("lineEdit_2");
+    QTest::newRow("2 dec: negative, point") << 2 << first << "-12.34" << true << false;
+    QTest::newRow("2 dec: three digits after") << 2 << first << "12.345" << false << false;
+    QTest::newRow("2 dec: comma") << 2 << first << "12,34" << false << true;
+    QTest::newRow("2 dec: whole number") << 2 << first << "-1234567" << true << true;
+    QTest::newRow("2 dec: bare separator") << 2 << first << "12." << false << false;
+    QTest::newRow("0 dec: six digits") << 0 << first << "123456" << true << true;
+    QTest::newRow("0 dec: seven digits") << 0 << first << "1234567" << false << false;
+    QTest::newRow("0 dec: minus") << 0 << first << "-1" << false << false;
+    QTest::newRow("negative dec: six digits") << -3 << first << "123456" << true << true;
+    QTest::newRow("second: six digits") << 2 << second << "123456" << true << true;
+    QTest::newRow("second: seven digits") << 2 << second << "1234567" << false << false;
+    QTest::newRow("second: minus") << 2 << second << "-1" << false << false;
+    QTest::newRow("second: point") << 2 << second << "1.5" << false << false;
+    QTest::newRow("second: comma") << 2 << second << "1,5" << false << false;
+}
+
+void TestDualInputDlg::fields()
+{
+    QFETCH(int, decimals);
+    QFETCH(QString, field);
+    QFETCH(QString, text);
+    QFETCH(bool, withPoint);
+    QFETCH(bool, withComma);
+
+    // Run by fieldsInOtherLocales in a child process, which says which separator it set.
+    const QByteArray forced = qgetenv(separatorVariable);
+    const QChar decimalPoint = QLocale::system().decimalPoint();
+    if (!forced.isEmpty())
+        QCOMPARE(decimalPoint, QChar::fromLatin1(forced.at(0)));
+
+    DualInputDlg dialog(decimals);
+    auto *edit = dialog.findChild<QLineEdit *>(field);
+    QVERIFY(edit);
+    QCOMPARE(typedAndAcceptable(edit, text),
+             decimalPoint == QLatin1Char('.') ? withPoint : withComma);
+}
+
+void TestDualInputDlg::fieldsInOtherLocales_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("decimalPoint");
+
+    QTest::newRow("Polish: comma") << "pl_PL.UTF-8"
+                                   << ",";
+    QTest::newRow("English: point") << "en_GB.UTF-8"
+                                    << ".";
+}
+
+void TestDualInputDlg::fieldsInOtherLocales()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, decimalPoint);
+
+    if (qEnvironmentVariableIsSet(separatorVariable))
+        QSKIP("already a child run");
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), locale);
+    environment.insert(QString::fromLatin1(separatorVariable), decimalPoint);
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::MergedChannels);
+    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("fields")});
+    QVERIFY(child.waitForFinished(60000));
+    QVERIFY2(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0,
+             child.readAll().constData());
+}
+
+void TestDualInputDlg::presetBypassesValidatorAndMovesFocus()
+{
+    DualInputDlg dialog;
+    auto *first = dialog.findChild<QLineEdit *>(QStringLiteral("lineEdit"));
+    first->setFocus();
+    dialog.SetValue1(QStringLiteral("-1.2345"));
+    QCOMPARE(dialog.getValue1(), QStringLiteral("-1.2345"));
+    QCOMPARE(dialog.focusWidget(), dialog.findChild<QLineEdit *>(QStringLiteral("lineEdit_2")));
+    QCOMPARE(dialog.getValue2(), QString());
+}
+
+void TestDualInputDlg::execReturnsTypedValues()
+{
+    DualInputDlg dialog;
+    dialog.SetValue1(QStringLiteral("40"));
+    ModalCatcher catcher([](QWidget *modal) {
+        // The cursor is in the second field already; the letter is refused.
+        QTest::keyClicks(modal->focusWidget(), QStringLiteral("75x"));
+        auto *box = modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+        QTest::mouseClick(box->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    });
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(dialog.getValue1(), QStringLiteral("40"));
+    QCOMPARE(dialog.getValue2(), QStringLiteral("75"));
+}
+
+QTEST_MAIN(TestDualInputDlg)
+#include "tst_dualinputdlg.moc"
