@@ -1,5 +1,6 @@
 #include "demowindow.h"
 #include "demotable.h"
+#include "devicemenu.h"
 
 #include "telecfg/dialogs/gui.h"
 
@@ -51,6 +52,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     bar->addWidget(saveButton);
     bar->addWidget(revertButton);
 
+    deviceMenu = new DeviceMenu(this);
     summary = new QLabel(this);
     statusBar()->addWidget(summary, 1);
 
@@ -180,5 +182,5 @@ QStringList DemoWindow::renderPages(const QString &dir)
         if (grab().save(file))
             files.append(file);
     }
-    return files;
+    return files + deviceMenu->renderDialogs(dir);
 }

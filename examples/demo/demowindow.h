@@ -5,6 +5,7 @@
 #include <QMainWindow>
 
 class DemoTable;
+class DeviceMenu;
 class QComboBox;
 class QLabel;
 class QSpinBox;
@@ -41,6 +42,7 @@ private:
     QComboBox *hardwareBox;
     QSpinBox *licenceBox;
     QLabel *summary;
+    DeviceMenu *deviceMenu;
     QList<FormControl> controls;
     bool refreshQueued = false;
 };
