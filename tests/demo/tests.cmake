@@ -2,7 +2,7 @@
 if(TARGET telecfg-demo)
     add_test(NAME demo_screenshots
         COMMAND ${CMAKE_COMMAND} -DDEMO=$<TARGET_FILE:telecfg-demo>
-            -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots -DPAGES=6
+            -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots -DPAGES=6 -DDIALOGS=4
             -P ${CMAKE_CURRENT_LIST_DIR}/screenshots_check.cmake)
     add_test(NAME demo_bad_table
         COMMAND telecfg-demo --table ${CMAKE_CURRENT_LIST_DIR}/tests.cmake --screenshot ${CMAKE_CURRENT_BINARY_DIR}/none)
