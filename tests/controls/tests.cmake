@@ -3,8 +3,8 @@
 # and again under a comma one.
 foreach(suite tst_cfglineedit tst_cfgdoublespinbox)
     set_tests_properties(${suite} PROPERTIES ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=C;LANG=C")
+        "${telecfg_test_environment};LC_ALL=C;LANG=C")
     add_test(NAME ${suite}_comma COMMAND ${suite})
     set_tests_properties(${suite}_comma PROPERTIES ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false;LC_ALL=pl_PL.UTF-8;LANG=pl_PL.UTF-8")
+        "${telecfg_test_environment};LC_ALL=pl_PL.UTF-8;LANG=pl_PL.UTF-8")
 endforeach()

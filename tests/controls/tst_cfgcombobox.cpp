@@ -135,7 +135,6 @@ void TestCfgComboBox::colour()
     combo.setReference(&host, 10, nullptr, {});
     combo.setEnabled(enabled);
     combo.setError(error);
-    QVERIFY(combo.styleSheet() != expected || !error); // setError alone repaints nothing
     combo.updateControl(1);
     QCOMPARE(combo.styleSheet(), expected);
 }

@@ -1,7 +1,6 @@
 #include "telecfg/controls/cfgradiobutton.h"
 #include "tests/support/testhost.h"
 
-#include <QButtonGroup>
 #include <QtTest>
 
 namespace {
@@ -35,7 +34,6 @@ private slots:
     void setSelected();
     void sheets_data();
     void sheets();
-    void exclusiveGroup();
 };
 
 void TestCfgRadioButton::binding_data()
@@ -187,28 +185,6 @@ void TestCfgRadioButton::sheets()
     button.setError(error);
     button.updateControl(1);
     QCOMPARE(button.styleSheet(), expected);
-}
-
-void TestCfgRadioButton::exclusiveGroup()
-{
-    // Two choices of one parameter need two parameter numbers; the host ties them.
-    TestHost host;
-    host.add(10, 4, 1u).minimum = 1u;
-    host.add(11, 4, 1u).minimum = 2u;
-    QWidget form;
-    auto *listen = new CfgRadioButton(&form);
-    auto *normalMode = new CfgRadioButton(&form);
-    listen->setAutoExclusive(true);
-    normalMode->setAutoExclusive(true);
-    listen->setReference(&host, 10, nullptr, {});
-    normalMode->setReference(&host, 11, nullptr, {});
-    QVERIFY(listen->isChecked());
-    // The last checked button of an exclusive group cannot be unchecked.
-    listen->setSelected(2);
-    QVERIFY(listen->isChecked());
-    normalMode->setSelected(2);
-    QVERIFY(normalMode->isChecked());
-    QVERIFY(!listen->isChecked());
 }
 
 QTEST_MAIN(TestCfgRadioButton)
