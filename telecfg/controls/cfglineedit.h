@@ -26,6 +26,8 @@ public:
     bool isError();
     // Shows `text` without writing it to the host.
     void displayText(QString text);
+    // The widget's own getter of the same name stays reachable.
+    using QLineEdit::displayText;
 
 public slots:
     // The text then counts as the user's edit.
