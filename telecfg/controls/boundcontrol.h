@@ -56,3 +56,32 @@ void applyStyleSheet(QWidget *widget, const QString &sheet);
 // Whether the system locale reads "1.1" as a number, i.e. writes decimals with a point
 // (else they are taken to use a comma). Asked anew each time, like the locale itself.
 bool systemLocaleUsesPoint();
+
+// Defines, in a control's source file, the protocol operations that read the same in every
+// bound control: the error flag, the host's enable gate and the hidden request. The control
+// holds a BoundControl named `bound` and declares these operations itself (some are slots,
+// which the meta-object compiler must see); only its updateControl is its own.
+#define TELECFG_BOUND_CONTROL_OPERATIONS(Control)                                                  \
+    void Control::setError(bool error)                                                             \
+    {                                                                                              \
+        bound.error = error;                                                                       \
+    }                                                                                              \
+    bool Control::isError()                                                                        \
+    {                                                                                              \
+        return bound.error;                                                                        \
+    }                                                                                              \
+    void Control::setEnabled(bool bEnable)                                                         \
+    {                                                                                              \
+        bound.setEnabled(this, bEnable);                                                           \
+        updateControl(0);                                                                          \
+    }                                                                                              \
+    void Control::updateEnableState(bool state)                                                    \
+    {                                                                                              \
+        bound.updateEnableState(this, state);                                                      \
+        updateControl(0);                                                                          \
+    }                                                                                              \
+    void Control::setHidden(bool hidden)                                                           \
+    {                                                                                              \
+        if (bound.setHidden(this, hidden))                                                         \
+            updateControl(0);                                                                      \
+    }

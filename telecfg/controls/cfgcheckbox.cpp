@@ -59,37 +59,9 @@ void CfgCheckBox::updateControl(int hardwareId)
     drawBitmap(isEnabled(), bound.iface->isModified(bound.reference));
 }
 
-void CfgCheckBox::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgCheckBox::isError()
-{
-    return bound.error;
-}
-
 int CfgCheckBox::getReference()
 {
     return bound.reference;
-}
-
-void CfgCheckBox::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgCheckBox::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgCheckBox::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
 }
 
 void CfgCheckBox::changed(int state)
@@ -108,3 +80,5 @@ void CfgCheckBox::drawBitmap(bool enabled, bool modified)
 {
     applyStyleSheet(this, checkBoxSheet(enabled, modified));
 }
+
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgCheckBox)

@@ -126,30 +126,4 @@ void CfgComboBox::changed(const QString &text)
     emit cfgComboBoxChanged();
 }
 
-void CfgComboBox::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgComboBox::isError()
-{
-    return bound.error;
-}
-
-void CfgComboBox::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgComboBox::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgComboBox::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgComboBox)

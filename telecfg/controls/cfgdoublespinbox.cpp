@@ -86,30 +86,4 @@ void CfgDoubleSpinBox::updateControl(int hardwareId)
     applyStyleSheet(this, doubleSpinSheet(state));
 }
 
-void CfgDoubleSpinBox::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgDoubleSpinBox::isError()
-{
-    return bound.error;
-}
-
-void CfgDoubleSpinBox::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgDoubleSpinBox::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgDoubleSpinBox::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgDoubleSpinBox)

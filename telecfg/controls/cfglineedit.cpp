@@ -145,30 +145,4 @@ void CfgLineEdit::setText(const QString &text)
     QLineEdit::setText(text);
 }
 
-void CfgLineEdit::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgLineEdit::isError()
-{
-    return bound.error;
-}
-
-void CfgLineEdit::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgLineEdit::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgLineEdit::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgLineEdit)

@@ -76,30 +76,4 @@ void CfgRadioButton::drawBitmap(bool enabled, bool modified)
     applyStyleSheet(this, radioSheet(modified));
 }
 
-void CfgRadioButton::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgRadioButton::isError()
-{
-    return bound.error;
-}
-
-void CfgRadioButton::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgRadioButton::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgRadioButton::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgRadioButton)

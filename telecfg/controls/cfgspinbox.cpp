@@ -67,30 +67,4 @@ void CfgSpinBox::updateControl(int hardwareId)
     applyStyleSheet(this, spinSheet(state));
 }
 
-void CfgSpinBox::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgSpinBox::isError()
-{
-    return bound.error;
-}
-
-void CfgSpinBox::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgSpinBox::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgSpinBox::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgSpinBox)
