@@ -170,8 +170,9 @@ void CfgListWidget::addNew(const QVariant &value, int ref)
     const int place = kind->firstFree(vector, capacity);
     if (place < 0) {
         // Deliberate: a full collection of a type that builds its item first still shows
-        // that item, with no place of its own (it reads as a removed place 0).
-        if (kind->buildsItemFirst() && capacity > 0) {
+        // that item, with no place of its own (it reads as a removed place 0). A value that
+        // holds no vector at all adds nothing.
+        if (kind->buildsItemFirst() && capacity > 0 && kind->placeCount(vector) > 0) {
             QListWidgetItem *item = newItem(kind->newText(elementContext, value));
             insertItem(count(), item);
             setCurrentItem(item, QItemSelectionModel::ClearAndSelect);

@@ -12,6 +12,9 @@ template <class Container> int registerContainer(const char *name)
             id, qMetaTypeId<QtMetaTypePrivate::QSequentialIterableImpl>()))
         QMetaType::registerConverter<Container, QtMetaTypePrivate::QSequentialIterableImpl>(
             QtMetaTypePrivate::QSequentialIterableConvertFunctor<Container>());
+    // Lets hosts compare values (QVariant ==) by their elements.
+    if (!QMetaType::hasRegisteredComparators(id))
+        QMetaType::registerEqualsComparator<Container>();
     return id;
 }
 

@@ -19,8 +19,8 @@ using ColumnVectors = QVector<QVector<QByteArray>>;
 // Makes every collection container known to QVariant under the name hosts use for it
 // ("QVector<quint16>", "QVector<quint32>", "QVector<QString>", "QVector<QByteArray>",
 // "QVector<QVector<QByteArray> >", "QList<uint>", "QList<NamedUShort>", "QList<NamedUInt>"),
-// with sequential-iterable converters for the vectors. The work is done once per process;
-// both editors call it on construction, a host may call it earlier.
+// with sequential-iterable converters and equality for the vectors. The work is done once per
+// process; both editors call it on construction, a host may call it earlier.
 TELECFG_EXPORT void registerCollectionTypes();
 
 // The meta-type id of one registered container, by its name; 0 for an unknown name.
