@@ -10,19 +10,42 @@
 // The four states an element's item is painted in, shared by the list and the table.
 enum class ElementState { Removed, Invalid, Modified, Existing };
 
-// The background and tool tip of one state.
-template <class Item> void paintState(Item *item, ElementState state)
+// The background and tool tip of each state, built once per repaint rather than per item.
+class StateLook
 {
-    static const Qt::GlobalColor colours[] = {Qt::gray, Qt::red, Qt::yellow, Qt::white};
-    static const char *const tips[] = {
-        QT_TRANSLATE_NOOP("CfgListWidget", "Usunięty element"),
-        QT_TRANSLATE_NOOP("CfgListWidget", "Nieprawidłowy element"),
-        QT_TRANSLATE_NOOP("CfgListWidget", "Zmodyfikowany element"),
-        QT_TRANSLATE_NOOP("CfgListWidget", "Istniejący element"),
-    };
-    const int index = int(state);
-    item->setData(Qt::BackgroundRole, QBrush(colours[index], Qt::SolidPattern));
-    item->setToolTip(QCoreApplication::translate("CfgListWidget", tips[index]));
+public:
+    StateLook()
+    {
+        static const Qt::GlobalColor colours[] = {Qt::gray, Qt::red, Qt::yellow, Qt::white};
+        static const char *const tips[] = {
+            QT_TRANSLATE_NOOP("CfgListWidget", "Usunięty element"),
+            QT_TRANSLATE_NOOP("CfgListWidget", "Nieprawidłowy element"),
+            QT_TRANSLATE_NOOP("CfgListWidget", "Zmodyfikowany element"),
+            QT_TRANSLATE_NOOP("CfgListWidget", "Istniejący element"),
+        };
+        for (int i = 0; i < 4; ++i) {
+            brushes[i] = QBrush(colours[i], Qt::SolidPattern);
+            toolTips[i] = QCoreApplication::translate("CfgListWidget", tips[i]);
+        }
+    }
+
+    template <class Item>
+    void paint(Item *item, ElementState state) const
+    {
+        item->setData(Qt::BackgroundRole, brushes[int(state)]);
+        item->setToolTip(toolTips[int(state)]);
+    }
+
+private:
+    QVariant brushes[4];
+    QString toolTips[4];
+};
+
+// One state painted on one item.
+template <class Item>
+void paintState(Item *item, ElementState state)
+{
+    StateLook().paint(item, state);
 }
 
 // Decides the state of each item from the number it holds under Qt::UserRole, with the
@@ -52,10 +75,11 @@ public:
 
     template <class Item> void paint(Item *item) const
     {
-        paintState(item, stateOf(item->data(Qt::UserRole).toUInt()));
+        look.paint(item, stateOf(item->data(Qt::UserRole).toUInt()));
     }
 
 private:
+    StateLook look;
     QSet<int> invalid;
     QSet<int> modified;
 };
