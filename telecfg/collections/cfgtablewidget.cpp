@@ -198,16 +198,20 @@ bool CfgTableWidget::isItemExists(QString value, int &index)
     return searchItems(items, value, exclude, index);
 }
 
+int CfgTableWidget::refuseDuplicate()
+{
+    QMessageBox::critical(this, tr("Nowy element"), tr("Identyfikator jest już używany"),
+                          QMessageBox::Ok, QMessageBox::NoButton);
+    return 1;
+}
+
 int CfgTableWidget::addValue(QVariant value, int ref)
 {
     if (!bound.iface)
         return 0;
     int index = -1;
-    if (isItemExists(value, index)) {
-        QMessageBox::critical(this, tr("Nowy element"), tr("Identyfikator jest już używany"),
-                              QMessageBox::Ok, QMessageBox::NoButton);
-        return 1;
-    }
+    if (isItemExists(value, index))
+        return refuseDuplicate();
     const QStringList strings = value.toStringList();
     if (!value.isValid() || strings.isEmpty()) {
         ListWidgetEditEnd();
@@ -253,11 +257,8 @@ int CfgTableWidget::addValue(QString value, int ref)
     if (!bound.iface)
         return 0;
     int index = -1;
-    if (isItemExists(value, index)) {
-        QMessageBox::critical(this, tr("Nowy element"), tr("Identyfikator jest już używany"),
-                              QMessageBox::Ok, QMessageBox::NoButton);
-        return 1;
-    }
+    if (isItemExists(value, index))
+        return refuseDuplicate();
     ColumnVectors columns = qvariant_cast<ColumnVectors>(bound.iface->object(ref).value);
     const QList<QTableWidgetItem *> items = findItems(value, Qt::MatchExactly);
     if (items.isEmpty() || !items.first())

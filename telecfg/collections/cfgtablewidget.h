@@ -49,6 +49,7 @@ public slots:
     void changed(int value);
 
 private:
+    int refuseDuplicate();
     bool placeCell(int row, int column, QTableWidgetItem *cell);
     bool searchItems(const QList<QTableWidgetItem *> &items, const QString &text, int exclude,
                      int &index);

@@ -29,8 +29,7 @@ public:
         }
     }
 
-    template <class Item>
-    void paint(Item *item, ElementState state) const
+    template <class Item> void paint(Item *item, ElementState state) const
     {
         item->setData(Qt::BackgroundRole, brushes[int(state)]);
         item->setToolTip(toolTips[int(state)]);
@@ -42,8 +41,7 @@ private:
 };
 
 // One state painted on one item.
-template <class Item>
-void paintState(Item *item, ElementState state)
+template <class Item> void paintState(Item *item, ElementState state)
 {
     StateLook().paint(item, state);
 }

@@ -173,6 +173,9 @@ void TestCfgTableWidget::addRow_data()
     QTest::newRow("capacity 1, no place 1")
         << QStringList{"", ""} << 1 << QVariant(QStringList{"3", "30"}) << 0 << QStringList{"3|30"}
         << QStringList{"3", "30"} << "";
+    QTest::newRow("capacity above the column")
+        << QStringList{"1", "10"} << 5 << QVariant(QStringList{"3", "30"}) << 0
+        << QStringList{"1|10"} << QStringList{"1", "10"} << "";
     QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << QVariant(QStringList{"3", "30"}) << 0
                                 << QStringList{} << QStringList{"", ""} << "";
     QTest::newRow("empty list") << QStringList{"1|", "10|"} << 2 << QVariant(QStringList{}) << 0
