@@ -214,7 +214,7 @@ int CfgTableWidget::addValue(QVariant value, int ref)
         return refuseDuplicate();
     const QStringList strings = value.toStringList();
     if (!value.isValid() || strings.isEmpty()) {
-        ListWidgetEditEnd();
+        ListWidgetEditEnd(nullptr, QAbstractItemDelegate::NoHint);
         return 0;
     }
     ColumnVectors columns = qvariant_cast<ColumnVectors>(bound.iface->object(ref).value);
@@ -248,7 +248,7 @@ int CfgTableWidget::addValue(QVariant value, int ref)
         }
     }
     storeColumns(ref, columns);
-    ListWidgetEditEnd();
+    ListWidgetEditEnd(nullptr, QAbstractItemDelegate::NoHint);
     return 0;
 }
 

@@ -41,8 +41,7 @@ public:
     void inputMode(int mode);
 
 public slots:
-    void ListWidgetEditEnd(QWidget *editor = nullptr,
-                           QAbstractItemDelegate::EndEditHint hint = QAbstractItemDelegate::NoHint);
+    void ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::EndEditHint hint);
     void doubleClicked(QTableWidgetItem *item);
     void setHidden(bool hidden);
     // For a widget the host places in a cell, carrying the properties "row" and "col".
