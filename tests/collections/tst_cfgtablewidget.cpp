@@ -51,14 +51,13 @@ QStringList gridOf(const QTableWidget &table)
     return rows;
 }
 
-MainConfigObject &addTable(TestHost &host, const QVariant &value, int columns, int capacity)
+// A table parameter of `shown` columns, `filled` of them filled from the value.
+MainConfigObject &addTable(TestHost &host, const QVariant &value, int capacity, int shown = 2,
+                           int filled = 2)
 {
     MainConfigObject &object = host.add(ref, 0, value);
-    QList<uint> listA;
-    for (int i = 0; i < columns; ++i)
-        listA << 0u;
-    object.columnListA = QVariant::fromValue(listA);
-    object.columnListB = QVariant::fromValue(listA);
+    object.columnListA = QVariant::fromValue(QVector<uint>(filled).toList());
+    object.columnListB = QVariant::fromValue(QVector<uint>(shown).toList());
     object.capacity = capacity;
     object.columnTitles = QStringList{"Poziom", "Objętość"};
     return object;
@@ -128,11 +127,7 @@ void TestCfgTableWidget::binding()
     QFETCH(QStringList, grid);
 
     TestHost host;
-    MainConfigObject &object = addTable(host, value, columns, capacity);
-    QList<uint> listA;
-    for (int i = 0; i < filled; ++i)
-        listA << 0u;
-    object.columnListA = QVariant::fromValue(listA);
+    addTable(host, value, capacity, columns, filled);
     CfgTableWidget tableWidget;
     tableWidget.setRowCount(5);
     tableWidget.setReference(&host, ref, nullptr, {});
@@ -195,7 +190,7 @@ void TestCfgTableWidget::addRow()
     QFETCH(QString, message);
 
     TestHost host;
-    addTable(host, table(value), 2, capacity);
+    addTable(host, table(value), capacity);
     CfgTableWidget tableWidget;
     tableWidget.setReference(&host, ref, nullptr, {});
     ModalCatcher catcher;
@@ -241,7 +236,7 @@ void TestCfgTableWidget::editCheck()
     QFETCH(QString, message);
 
     TestHost host;
-    addTable(host, table({"1|2", "10|20"}), 2, 2);
+    addTable(host, table({"1|2", "10|20"}), 2);
     CfgTableWidget tableWidget;
     tableWidget.setReference(&host, ref, nullptr, {});
     tableWidget.show();
@@ -307,7 +302,7 @@ void TestCfgTableWidget::remove()
     QFETCH(int, writes);
 
     TestHost host;
-    addTable(host, table(value), 2, capacity);
+    addTable(host, table(value), capacity);
     host.storedItemsOf[ref] = stored;
     CfgTableWidget tableWidget;
     tableWidget.setSelectionMode(QAbstractItemView::MultiSelection);
@@ -337,7 +332,7 @@ void TestCfgTableWidget::remove()
 void TestCfgTableWidget::cellWidgetChange()
 {
     TestHost host;
-    addTable(host, table({"1|2", "10|20"}), 2, 2);
+    addTable(host, table({"1|2", "10|20"}), 2);
     CfgTableWidget tableWidget;
     tableWidget.setReference(&host, ref, nullptr, {});
     QSpinBox spin;
@@ -363,7 +358,7 @@ void TestCfgTableWidget::cellWidgetChange()
 void TestCfgTableWidget::paintingStopsAtMissingCell()
 {
     TestHost host;
-    addTable(host, table({"1|2|3", "10|20|30"}), 2, 3);
+    addTable(host, table({"1|2|3", "10|20|30"}), 3);
     host.invalidItemsOf[ref] = {0};
     host.modifiedItemsOf[ref] = {0, 2};
     CfgTableWidget tableWidget;
