@@ -184,6 +184,9 @@ void CfgListWidget::addNew(const QVariant &value, int ref)
     bound.iface->object(ref).value = vector;
     item->setData(Qt::UserRole, placeData(place, true));
     setValue(place, element);
+    // Painted before it joins the list, so the refresh that ends the add finds it as it should
+    // be and the view is not told of a change (which would make it lay out every item again).
+    ElementPainter(bound.iface, bound.reference).paint(item);
     // Appended whichever place it took: list order is not place order.
     insertItem(count(), item);
     setCurrentItem(item, QItemSelectionModel::ClearAndSelect);
