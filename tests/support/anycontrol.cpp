@@ -1,5 +1,7 @@
 #include "tests/support/anycontrol.h"
 
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/controls/cfgdoublespinbox.h"
@@ -10,6 +12,11 @@
 #include <QTest>
 
 QStringList anyControlKinds()
+{
+    return valueControlKinds() + QStringList{QStringLiteral("list"), QStringLiteral("table")};
+}
+
+QStringList valueControlKinds()
 {
     return {QStringLiteral("checkbox"),      QStringLiteral("combobox"),
             QStringLiteral("lineedit"),      QStringLiteral("spinbox"),
@@ -43,6 +50,10 @@ AnyControl makeAnyControl(const QString &kind)
             [](CfgDoubleSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
     if (kind == QLatin1String("radiobutton"))
         return makeEditable<CfgRadioButton>([](CfgRadioButton *button) { button->click(); });
+    if (kind == QLatin1String("list"))
+        return makeAnyControl<CfgListWidget>();
+    if (kind == QLatin1String("table"))
+        return makeAnyControl<CfgTableWidget>();
     qFatal("unknown control kind %s", qPrintable(kind));
     return {};
 }

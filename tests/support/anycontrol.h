@@ -42,4 +42,6 @@ template <class Control> AnyControl makeAnyControl()
 
 // The kinds a protocol test runs over, by name ("checkbox", ...). Add each new kind here.
 QStringList anyControlKinds();
+// The six single-value controls, which have a user edit and paint through a style sheet.
+QStringList valueControlKinds();
 AnyControl makeAnyControl(const QString &kind);

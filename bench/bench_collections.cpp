@@ -1,0 +1,106 @@
+// The collection list as a host uses it: binding and painting a long list, and filling one
+// element after another with the user interface running between the adds.
+#include "telecfg/collections/cfglistwidget.h"
+#include "tests/support/testhost.h"
+
+#include <QApplication>
+#include <QTest>
+#include <benchmark/benchmark.h>
+
+namespace {
+constexpr int places = 1000;
+constexpr int ref = 40;
+
+QByteArray identifier(int i)
+{
+    return QByteArray("ID-") + QByteArray::number(100000 + i);
+}
+
+struct ShownList
+{
+    TestHost host;
+    CfgListWidget list;
+
+    explicit ShownList(const QVector<QByteArray> &value)
+    {
+        host.add(ref, 20, QVariant::fromValue(value)).capacity = places;
+        list.resize(260, 200);
+        list.show();
+        if (!QTest::qWaitForWindowExposed(&list))
+            qFatal("the list was not shown");
+    }
+};
+
+// 1000 identifiers, 100 of them invalid and 100 modified; each iteration binds the list
+// anew, paints every item's state and repaints the view.
+void BM_ListBindAndRepaint(benchmark::State &state)
+{
+    QVector<QByteArray> value;
+    for (int i = 0; i < places; ++i)
+        value << identifier(i);
+    ShownList shown(value);
+    for (int i = 0; i < 100; ++i) {
+        shown.host.invalidItemsOf[ref] << i * 10;
+        shown.host.modifiedItemsOf[ref] << i * 10 + 5;
+    }
+    for (auto _ : state) {
+        shown.list.setReference(&shown.host, ref, nullptr, {});
+        shown.list.updateControl(1);
+        QCoreApplication::processEvents();
+        shown.list.viewport()->repaint();
+    }
+    state.SetItemsProcessed(state.iterations() * places);
+}
+BENCHMARK(BM_ListBindAndRepaint)->Unit(benchmark::kMillisecond);
+
+// Fills an empty list of 1000 places, one add after another; `eventsEachAdd` processes the
+// events after each add as the host's main loop would, otherwise once at the end (the list's
+// own share of the work).
+void fillList(benchmark::State &state, bool eventsEachAdd)
+{
+    ShownList shown{QVector<QByteArray>(places)};
+    QVector<QString> inputs;
+    for (int i = 0; i < places; ++i)
+        inputs << QString::fromLatin1(identifier(i));
+    for (auto _ : state) {
+        state.PauseTiming();
+        shown.host.records[ref].value = QVariant::fromValue(QVector<QByteArray>(places));
+        shown.host.writes.clear();
+        shown.list.setReference(&shown.host, ref, nullptr, {});
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        for (const QString &input : inputs) {
+            shown.list.addValue(QVariant(input), ref);
+            if (eventsEachAdd)
+                QCoreApplication::processEvents();
+        }
+        QCoreApplication::processEvents();
+    }
+    if (shown.list.count() != places)
+        state.SkipWithError("the list did not fill");
+    state.SetItemsProcessed(state.iterations() * places);
+}
+
+void BM_ListThousandAdds(benchmark::State &state)
+{
+    fillList(state, true);
+}
+BENCHMARK(BM_ListThousandAdds)->Unit(benchmark::kMillisecond);
+
+void BM_ListThousandAddsEventsOnce(benchmark::State &state)
+{
+    fillList(state, false);
+}
+BENCHMARK(BM_ListThousandAddsEventsOnce)->Unit(benchmark::kMillisecond);
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM",
+            qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,304 @@
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/elementkind_p.h"
+#include "telecfg/collections/elementstate_p.h"
+#include "telecfg/collections/valuetypes.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace {
+QListWidgetItem *newItem(const QString &text)
+{
+    auto *item = new QListWidgetItem(text);
+    item->setFlags(item->flags() | Qt::ItemIsEditable);
+    return item;
+}
+
+QVariant placeData(int place, bool live)
+{
+    return QVariant(live ? uint(place) | liveFlag : uint(place));
+}
+} // namespace
+
+CfgListWidget::CfgListWidget(QWidget *parent) : QListWidget(parent)
+{
+    registerCollectionTypes();
+    // Items are single lines of text: the view then lays out an add without measuring
+    // every item again.
+    setUniformItemSizes(true);
+    connect(itemDelegate(), SIGNAL(commitData(QWidget *)), this,
+            SLOT(ListWidgetEditCommit(QWidget *)));
+    connect(itemDelegate(), SIGNAL(closeEditor(QWidget *, QAbstractItemDelegate::EndEditHint)),
+            this, SLOT(ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEditHint)));
+    connect(this, SIGNAL(itemDoubleClicked(QListWidgetItem *)), this,
+            SLOT(doubleClicked(QListWidgetItem *)));
+    // Deliberate: there is no such slot, so this connection fails with the toolkit's warning
+    // and a selection change causes nothing. Hosts rely on the list ignoring selection.
+    connect(this, SIGNAL(itemSelectionChanged()), this, SLOT(selectionChanged()));
+}
+
+CfgListWidget::~CfgListWidget() = default;
+
+void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label,
+                                 QList<QWidget *> relatedWidgets)
+{
+    bound.bind(iface, ref, relatedWidgets);
+    setToolTip(bound.record().toolTip);
+    clear();
+    const MainConfigObject &object = bound.record();
+    if (const ElementKind *kind = elementKind(object.type)) {
+        const auto texts = kind->storedTexts(context(ref), object.value);
+        for (const auto &placeText : texts) {
+            QListWidgetItem *item = newItem(placeText.second);
+            item->setData(Qt::UserRole, placeData(placeText.first, true));
+            insertItem(count(), item);
+        }
+    }
+    MainConfigObject &record = bound.record();
+    record.control = this;
+    if (label)
+        record.label = label;
+}
+
+void CfgListWidget::updateControl(int hardwareId)
+{
+    if (!bound.refreshVisibility(this, hardwareId))
+        return;
+    const ElementPainter painter(bound.iface, bound.reference);
+    for (int row = 0; row < count(); ++row)
+        painter.paint(item(row));
+}
+
+void CfgListWidget::updateEnableState(bool state)
+{
+    bound.updateEnableState(this, state);
+    updateControl(0);
+}
+
+void CfgListWidget::setEnabled(bool bEnable)
+{
+    bound.setEnabled(this, bEnable);
+    updateControl(0);
+}
+
+void CfgListWidget::setHidden(bool hidden)
+{
+    if (bound.setHidden(this, hidden))
+        updateControl(0);
+}
+
+void CfgListWidget::setError(bool error)
+{
+    bound.error = error;
+}
+
+bool CfgListWidget::isError()
+{
+    return bound.error;
+}
+
+void CfgListWidget::inputMode(int mode)
+{
+    inputModeValue = mode;
+}
+
+ElementContext CfgListWidget::context(int ref)
+{
+    ElementContext context;
+    context.iface = bound.iface;
+    context.valueNames = bound.iface->object(ref).valueNames;
+    context.convertData = [this](const QByteArray &data, int mode) {
+        return convertData(data, mode);
+    };
+    return context;
+}
+
+QByteArray CfgListWidget::convertData(const QByteArray &data, int mode)
+{
+    return convertElementBytes(data, mode, inputModeValue);
+}
+
+bool CfgListWidget::isItemExists(QVariant value, int &index)
+{
+    const QString text = value.toString();
+    const QList<QListWidgetItem *> items = findItems(text, Qt::MatchExactly);
+    index = -1;
+    for (QListWidgetItem *item : items) {
+        const quint32 data = item->data(Qt::UserRole).toUInt();
+        index = int(data);
+        // The text under edit is never a clash, even where a present element has it.
+        if (text == editText) {
+            index = int(data & ~liveFlag);
+            return false;
+        }
+        if (data & liveFlag) {
+            index = int(data & ~liveFlag);
+            return true;
+        }
+    }
+    return false;
+}
+
+int CfgListWidget::addValue(QVariant value, int ref)
+{
+    if (!bound.iface)
+        return 0;
+    int index = -1;
+    if (isItemExists(value, index)) {
+        QMessageBox::critical(this, tr("Nowy element"), tr("Identyfikator jest już używany"),
+                              QMessageBox::Ok, QMessageBox::NoButton);
+        return 1;
+    }
+    if (value.isValid()) {
+        if (index != -1)
+            restore(value, ref, index);
+        else
+            addNew(value, ref);
+    }
+    ListWidgetEditEnd(nullptr, QAbstractItemDelegate::NoHint);
+    return 0;
+}
+
+void CfgListWidget::addNew(const QVariant &value, int ref)
+{
+    const ElementKind *kind = elementKind(bound.iface->object(ref).type);
+    if (!kind)
+        return;
+    const ElementContext elementContext = context(ref);
+    const quint32 capacity = quint32(bound.iface->object(ref).capacity);
+    QVariant vector = bound.iface->value(ref);
+    const int place = kind->firstFree(vector, capacity);
+    if (place < 0) {
+        // Deliberate: a full collection of a type that builds its item first still shows
+        // that item, with no place of its own (it reads as a removed place 0). A value that
+        // holds no vector at all adds nothing.
+        if (kind->buildsItemFirst() && capacity > 0 && kind->placeCount(vector) > 0) {
+            QListWidgetItem *item = newItem(kind->newText(elementContext, value));
+            insertItem(count(), item);
+            setCurrentItem(item, QItemSelectionModel::ClearAndSelect);
+        }
+        return;
+    }
+    QListWidgetItem *item = newItem(kind->newText(elementContext, value));
+    const QVariant element = kind->storeNew(elementContext, vector, place, value);
+    bound.iface->object(ref).value = vector;
+    item->setData(Qt::UserRole, placeData(place, true));
+    setValue(place, element);
+    // Painted before it joins the list, so the refresh that ends the add finds it as it should
+    // be and the view is not told of a change (which would make it lay out every item again).
+    ElementPainter(bound.iface, bound.reference).paint(item);
+    // Appended whichever place it took: list order is not place order.
+    insertItem(count(), item);
+    setCurrentItem(item, QItemSelectionModel::ClearAndSelect);
+}
+
+void CfgListWidget::restore(const QVariant &value, int ref, int index)
+{
+    const QList<QListWidgetItem *> items = findItems(value.toString(), Qt::MatchExactly);
+    if (items.isEmpty())
+        return;
+    // The first item takes the place found by the search, which with several items of one
+    // text is the place of the last of them; the others fold into it.
+    if (const ElementKind *kind = elementKind(bound.iface->object(ref).type)) {
+        QVariant vector = bound.iface->value(ref);
+        const QVariant element = kind->storeRestored(context(ref), vector, index, value);
+        if (element.isValid()) {
+            items.first()->setData(Qt::UserRole, placeData(index, true));
+            setValue(index, element);
+        }
+    }
+    for (int i = 1; i < items.size(); ++i)
+        delete takeItem(row(items.at(i)));
+    updateControl(0);
+}
+
+void CfgListWidget::setValue(int index, QVariant value)
+{
+    if (!bound.iface)
+        return;
+    const MainConfigObject &object = bound.record();
+    const ElementKind *kind = elementKind(object.type);
+    if (!kind)
+        return;
+    QVariant vector = object.value;
+    if (kind->storeVariant(vector, index, value))
+        bound.iface->setValue(bound.reference, vector);
+}
+
+bool CfgListWidget::remove(int ref)
+{
+    return removeInternal(selectedItems(), ref);
+}
+
+bool CfgListWidget::removeAll(int ref)
+{
+    QList<QListWidgetItem *> items;
+    for (int row = 0; row < count(); ++row)
+        items.append(item(row));
+    return removeInternal(items, ref);
+}
+
+bool CfgListWidget::removeInternal(const QList<QListWidgetItem *> &items, int ref)
+{
+    if (items.isEmpty())
+        return true;
+    if (!bound.iface)
+        return false;
+    QVariant vector = bound.iface->value(ref);
+    for (QListWidgetItem *item : items) {
+        const int place = int(item->data(Qt::UserRole).toUInt() & ~liveFlag);
+        const int type = bound.iface->object(ref).type;
+        const ElementKind &kind = removalKind(type);
+        const QVariant element = kind.elementAt(vector, place);
+        bool kept = false;
+        if (element.isValid() && bound.iface->isStoredItem(ref, element)) {
+            kept = true;
+            item->setData(Qt::UserRole, placeData(place, false));
+            paintState(item, ElementState::Removed);
+            kind.zeroPlace(vector, place);
+            bound.iface->object(ref).value = vector;
+        }
+        // An item removed before holds its bare place and stays.
+        if (!kept && item->data(Qt::UserRole).toInt() != place)
+            delete takeItem(row(item));
+        if (const ElementKind *own = elementKind(type))
+            setValue(place, own->cleared(vector));
+        // Go on from what the host now holds, so no later item writes back a cleared one.
+        vector = bound.iface->value(ref);
+    }
+    int live = 0;
+    for (int row = 0; row < count(); ++row)
+        if (item(row)->data(Qt::UserRole).toUInt() & liveFlag)
+            ++live;
+    updateControl(0);
+    return quint32(live) < quint32(bound.iface->object(ref).capacity);
+}
+
+void CfgListWidget::doubleClicked(QListWidgetItem *)
+{
+    editText = currentItem() ? currentItem()->text() : QString();
+}
+
+void CfgListWidget::ListWidgetEditCommit(QWidget *editor)
+{
+    auto *lineEdit = qobject_cast<QLineEdit *>(editor);
+    if (!lineEdit)
+        return;
+    int index = -1;
+    // A present element finds itself here unless the text is back at editText: an edit
+    // onto a present text goes back, silently.
+    if (isItemExists(QVariant(lineEdit->text()), index) && currentItem())
+        currentItem()->setText(editText);
+}
+
+void CfgListWidget::ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::EndEditHint)
+{
+    if (currentItem() && editor && bound.iface) {
+        const int type = bound.record().type;
+        const QString text = currentItem()->text();
+        const QVariant value =
+            type == 13 || type == 20 ? QVariant(text) : QVariant(text.toUInt(nullptr, 10));
+        addValue(value, bound.reference);
+    }
+    updateControl(0);
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/mainconfig.h"
+
+#include <QBrush>
+#include <QCoreApplication>
+#include <QSet>
+
+// The four states an element's item is painted in, shared by the list and the table.
+enum class ElementState { Removed, Invalid, Modified, Existing };
+
+// The background and tool tip of each state, built once per repaint rather than per item.
+class StateLook
+{
+public:
+    StateLook()
+    {
+        static const Qt::GlobalColor colours[] = {Qt::gray, Qt::red, Qt::yellow, Qt::white};
+        static const char *const tips[] = {
+            QT_TRANSLATE_NOOP("CfgListWidget", "Usunięty element"),
+            QT_TRANSLATE_NOOP("CfgListWidget", "Nieprawidłowy element"),
+            QT_TRANSLATE_NOOP("CfgListWidget", "Zmodyfikowany element"),
+            QT_TRANSLATE_NOOP("CfgListWidget", "Istniejący element"),
+        };
+        for (int i = 0; i < 4; ++i) {
+            brushes[i] = QBrush(colours[i], Qt::SolidPattern);
+            toolTips[i] = QCoreApplication::translate("CfgListWidget", tips[i]);
+        }
+    }
+
+    template <class Item> void paint(Item *item, ElementState state) const
+    {
+        item->setData(Qt::BackgroundRole, brushes[int(state)]);
+        item->setToolTip(toolTips[int(state)]);
+    }
+
+private:
+    QVariant brushes[4];
+    QString toolTips[4];
+};
+
+// One state painted on one item.
+template <class Item> void paintState(Item *item, ElementState state)
+{
+    StateLook().paint(item, state);
+}
+
+// Decides the state of each item from the number it holds under Qt::UserRole, with the
+// host's invalid and modified places fetched once per repaint.
+class ElementPainter
+{
+public:
+    ElementPainter(MainConfigIFace *iface, int ref)
+    {
+        const QList<int> invalidList = iface->invalidItems(ref);
+        const QList<int> modifiedList = iface->modifiedItems(ref);
+        invalid = QSet<int>(invalidList.begin(), invalidList.end());
+        modified = QSet<int>(modifiedList.begin(), modifiedList.end());
+    }
+
+    ElementState stateOf(quint32 data) const
+    {
+        if (!(data & liveFlag))
+            return ElementState::Removed;
+        const int place = int(data & ~liveFlag);
+        if (invalid.contains(place))
+            return ElementState::Invalid;
+        if (modified.contains(place))
+            return ElementState::Modified;
+        return ElementState::Existing;
+    }
+
+    template <class Item> void paint(Item *item) const
+    {
+        look.paint(item, stateOf(item->data(Qt::UserRole).toUInt()));
+    }
+
+private:
+    StateLook look;
+    QSet<int> invalid;
+    QSet<int> modified;
+};

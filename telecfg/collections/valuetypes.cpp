@@ -1,0 +1,66 @@
+#include "telecfg/collections/valuetypes.h"
+#include "telecfg/network/countrytable.h"
+
+#include <QHash>
+#include <QSequentialIterable>
+
+namespace {
+template <class Container> int registerContainer(const char *name)
+{
+    const int id = qRegisterMetaType<Container>(name);
+    if (!QMetaType::hasRegisteredConverterFunction(
+            id, qMetaTypeId<QtMetaTypePrivate::QSequentialIterableImpl>()))
+        QMetaType::registerConverter<Container, QtMetaTypePrivate::QSequentialIterableImpl>(
+            QtMetaTypePrivate::QSequentialIterableConvertFunctor<Container>());
+    // Lets hosts compare values (QVariant ==) by their elements.
+    if (!QMetaType::hasRegisteredComparators(id))
+        QMetaType::registerEqualsComparator<Container>();
+    return id;
+}
+
+const QHash<QByteArray, int> &registeredIds()
+{
+    // Function-local: registered on first use, then handed out without work.
+    static const QHash<QByteArray, int> ids = [] {
+        QHash<QByteArray, int> result;
+        result.insert("QVector<quint16>", registerContainer<QVector<quint16>>("QVector<quint16>"));
+        result.insert("QVector<quint32>", registerContainer<QVector<quint32>>("QVector<quint32>"));
+        result.insert("QVector<QString>", registerContainer<QVector<QString>>("QVector<QString>"));
+        const QByteArray bytes =
+            QByteArray("QVector<") + QMetaType::typeName(QMetaType::QByteArray) + '>';
+        result.insert(bytes, registerContainer<QVector<QByteArray>>(bytes.constData()));
+        // A name ending in '>' takes a blank before the closing bracket.
+        const QByteArray nested = QByteArray("QVector<") + bytes + " >";
+        result.insert(nested, registerContainer<ColumnVectors>(nested.constData()));
+        const QByteArray uints = QByteArray("QList<") + QMetaType::typeName(QMetaType::UInt) + '>';
+        result.insert(uints, registerContainer<QList<uint>>(uints.constData()));
+        result.insert("QList<NamedUShort>",
+                      qRegisterMetaType<QList<NamedUShort>>("QList<NamedUShort>"));
+        result.insert("QList<NamedUInt>", qRegisterMetaType<QList<NamedUInt>>("QList<NamedUInt>"));
+        return result;
+    }();
+    return ids;
+}
+} // namespace
+
+void registerCollectionTypes()
+{
+    registeredIds();
+}
+
+int collectionTypeId(const char *name)
+{
+    return registeredIds().value(QByteArray(name), 0);
+}
+
+QString networkText(quint32 networkId)
+{
+    QString countryName;
+    QString operatorName;
+    networkNames(networkId, countryName, operatorName);
+    const quint32 number = (networkId >> 10) * 1000 + (networkId & 1023);
+    // A network code of 1000 or more runs into the country digits; hosts know it so.
+    return QStringLiteral("%1 %2 %3")
+        .arg(number, 6, 10, QLatin1Char('0'))
+        .arg(countryName, operatorName);
+}
