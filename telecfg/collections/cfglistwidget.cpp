@@ -42,9 +42,10 @@ CfgListWidget::~CfgListWidget() = default;
 void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                  QList<QWidget *> relatedWidgets)
 {
-    bound.bind(iface, ref, relatedWidgets);
-    setToolTip(bound.record().toolTip);
     clear();
+    if (!bound.bind(iface, ref, relatedWidgets))
+        return; // no table: an unbound list shows nothing
+    setToolTip(bound.record().toolTip);
     const MainConfigObject &object = bound.record();
     if (const ElementKind *kind = elementKind(object.type)) {
         const auto texts = kind->storedTexts(context(ref), object.value);
@@ -67,34 +68,6 @@ void CfgListWidget::updateControl(int hardwareId)
     const ElementPainter painter(bound.iface, bound.reference);
     for (int row = 0; row < count(); ++row)
         painter.paint(item(row));
-}
-
-void CfgListWidget::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgListWidget::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgListWidget::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
-
-void CfgListWidget::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgListWidget::isError()
-{
-    return bound.error;
 }
 
 void CfgListWidget::inputMode(int mode)
@@ -302,3 +275,5 @@ void CfgListWidget::ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::En
     }
     updateControl(0);
 }
+
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgListWidget)

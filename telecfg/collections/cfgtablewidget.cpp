@@ -43,10 +43,11 @@ CfgTableWidget::~CfgTableWidget() = default;
 void CfgTableWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                   QList<QWidget *> relatedWidgets)
 {
-    bound.bind(iface, ref, relatedWidgets);
     clear();
     // A binding shows exactly the new value, also when it has no rows at all.
     setRowCount(0);
+    if (!bound.bind(iface, ref, relatedWidgets))
+        return; // no table: an unbound editor shows nothing
     const MainConfigObject object = bound.record();
     setToolTip(object.toolTip);
     const int columns = qvariant_cast<QList<uint>>(object.columnListB).size();
@@ -117,34 +118,6 @@ void CfgTableWidget::updateControl(int hardwareId)
             painter.paint(cell);
         }
     }
-}
-
-void CfgTableWidget::updateEnableState(bool state)
-{
-    bound.updateEnableState(this, state);
-    updateControl(0);
-}
-
-void CfgTableWidget::setEnabled(bool bEnable)
-{
-    bound.setEnabled(this, bEnable);
-    updateControl(0);
-}
-
-void CfgTableWidget::setHidden(bool hidden)
-{
-    if (bound.setHidden(this, hidden))
-        updateControl(0);
-}
-
-void CfgTableWidget::setError(bool error)
-{
-    bound.error = error;
-}
-
-bool CfgTableWidget::isError()
-{
-    return bound.error;
 }
 
 void CfgTableWidget::inputMode(int mode)
@@ -367,3 +340,5 @@ void CfgTableWidget::changed(int value)
     *text = QString::number(value, 10).toLatin1();
     storeColumns(bound.reference, columns);
 }
+
+TELECFG_BOUND_CONTROL_OPERATIONS(CfgTableWidget)
