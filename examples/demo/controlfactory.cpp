@@ -1,4 +1,5 @@
 #include "controlfactory.h"
+#include "collectionpanel.h"
 
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"
@@ -46,5 +47,7 @@ FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigI
         box->setDecimals(parameter.decimals); // the host's choice, not the library's
         return makeControl(table, ref, label, box);
     }
+    if (kind == QLatin1String("list") || kind == QLatin1String("table"))
+        return (new CollectionPanel(parameter, table, label, parent))->formControl();
     return {};
 }

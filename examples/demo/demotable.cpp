@@ -203,12 +203,12 @@ QList<int> DemoTable::invalidItems(int ref)
 
 QList<int> DemoTable::modifiedItems(int ref)
 {
-    return differingElements(records[ref].value, stored.value(ref));
+    return differingElements(records[ref], records[ref].value, stored.value(ref));
 }
 
 bool DemoTable::isStoredItem(int ref, QVariant element)
 {
-    return containsElement(stored.value(ref), element);
+    return containsElement(records[ref], stored.value(ref), element);
 }
 
 QString DemoTable::nameOfUInt(quint32 value, QList<NamedUInt> names)

@@ -48,6 +48,26 @@ QVariantList elementsOf(const QVariant &value)
     return list;
 }
 
+// A collection's elements by place: a table's are its rows (a list of cells each).
+QVariantList placesOf(const MainConfigObject &object, const QVariant &value)
+{
+    if (shapeOf(object) != Shape::Table)
+        return elementsOf(value);
+    const QVariantList columns = elementsOf(value);
+    QVariantList rows;
+    for (int c = 0; c < columns.size(); ++c) {
+        const QVariantList cells = elementsOf(columns[c]);
+        for (int r = 0; r < cells.size(); ++r) {
+            if (rows.size() <= r)
+                rows.append(QVariant(QVariantList()));
+            QVariantList row = rows[r].toList();
+            row.append(cells[r]);
+            rows[r] = row;
+        }
+    }
+    return rows;
+}
+
 bool isEmptyElement(const QVariant &element)
 {
     if (element.userType() == QMetaType::QByteArray)
@@ -79,14 +99,16 @@ QVariant demoValue(const MainConfigObject &object, const QJsonValue &json)
         return vectorOf<QString>(array, object.capacity,
                                  [](const QJsonValue &v) { return v.toString(); });
     case Shape::Table: {
+        // One vector per column, each `capacity` places long; the JSON lists rows.
         const int columns = object.columnListA.value<QList<uint>>().size();
-        return vectorOf<QVector<QByteArray>>(array, object.capacity, [columns](const QJsonValue &v) {
-            QVector<QByteArray> row(columns);
-            const QJsonArray cells = v.toArray();
+        const int places = qMax(object.capacity, array.size());
+        QVector<QVector<QByteArray>> table(columns, QVector<QByteArray>(places));
+        for (int row = 0; row < array.size(); ++row) {
+            const QJsonArray cells = array[row].toArray();
             for (int c = 0; c < columns && c < cells.size(); ++c)
-                row[c] = cells[c].toVariant().toString().toUtf8();
-            return row;
-        });
+                table[c][row] = cells[c].toVariant().toString().toLatin1();
+        }
+        return QVariant::fromValue(table);
     }
     case Shape::Scalar:
         break;
@@ -147,10 +169,11 @@ bool sameValue(const QVariant &a, const QVariant &b)
     return true;
 }
 
-QList<int> differingElements(const QVariant &current, const QVariant &stored)
+QList<int> differingElements(const MainConfigObject &object, const QVariant &current,
+                             const QVariant &stored)
 {
-    const QVariantList now = elementsOf(current);
-    const QVariantList before = elementsOf(stored);
+    const QVariantList now = placesOf(object, current);
+    const QVariantList before = placesOf(object, stored);
     QList<int> places;
     for (int i = 0; i < now.size(); ++i)
         if (i >= before.size() || !sameValue(now[i], before[i]))
@@ -160,17 +183,22 @@ QList<int> differingElements(const QVariant &current, const QVariant &stored)
 
 QList<int> invalidElements(const MainConfigObject &object, const QJsonObject &rules)
 {
-    const QVariantList elements = elementsOf(object.value);
+    const QVariantList elements = placesOf(object, object.value);
     QList<int> places;
     for (int i = 0; i < elements.size(); ++i) {
         if (isEmptyElement(elements[i]))
             continue;
+        // A repeated element, or for a table a repeated row identifier, is invalid.
+        const bool table = shapeOf(object) == Shape::Table;
+        auto key = [table](const QVariant &element) {
+            return table ? element.toList().value(0) : element;
+        };
         bool repeated = false;
         for (int j = 0; j < i && !repeated; ++j)
-            repeated = sameValue(elements[i], elements[j]);
+            repeated = !isEmptyElement(key(elements[j])) && sameValue(key(elements[i]), key(elements[j]));
         bool badCell = false;
         if (rules.value(QLatin1String("numericCells")).toBool()) {
-            for (const QVariant &cell : elementsOf(elements[i])) {
+            for (const QVariant &cell : elements[i].toList()) {
                 const QByteArray text = cell.toByteArray();
                 bool ok = true;
                 if (!text.isEmpty())
@@ -184,10 +212,16 @@ QList<int> invalidElements(const MainConfigObject &object, const QJsonObject &ru
     return places;
 }
 
-bool containsElement(const QVariant &collection, const QVariant &element)
+bool containsElement(const MainConfigObject &object, const QVariant &collection,
+                     const QVariant &element)
 {
-    for (const QVariant &stored : elementsOf(collection))
-        if (sameValue(stored, element))
+    for (const QVariant &stored : placesOf(object, collection)) {
+        // A table asks about a row by its identifier, the first cell.
+        const QVariant candidate = shapeOf(object) == Shape::Table
+                                       ? stored.toList().value(0)
+                                       : stored;
+        if (sameValue(candidate, element))
             return true;
+    }
     return false;
 }

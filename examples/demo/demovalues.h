@@ -16,9 +16,12 @@ bool isCollection(const MainConfigObject &object);
 
 // Equality as the host sees it: containers element by element, scalars by value.
 bool sameValue(const QVariant &a, const QVariant &b);
-// Places whose elements differ between two collection values.
-QList<int> differingElements(const QVariant &current, const QVariant &stored);
+// Places whose elements differ between two collection values (a table's place is a row).
+QList<int> differingElements(const MainConfigObject &object, const QVariant &current,
+                             const QVariant &stored);
 // Places of a collection whose element breaks the parameter's rules (a repeated element,
 // a table cell that is not a number).
 QList<int> invalidElements(const MainConfigObject &object, const QJsonObject &rules);
-bool containsElement(const QVariant &collection, const QVariant &element);
+// Whether a stored collection holds the element (for a table: the row identifier).
+bool containsElement(const MainConfigObject &object, const QVariant &collection,
+                     const QVariant &element);

@@ -1,0 +1,157 @@
+#include "collectionpanel.h"
+
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/dialogs/dualinputdlg.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+CollectionPanel::CollectionPanel(const DemoTable::Parameter &parameter, MainConfigIFace *host,
+                                 QWidget *rowLabel, QWidget *parent)
+    : QWidget(parent), table(host), ref(parameter.ref), label(rowLabel)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (parameter.control == QLatin1String("table")) {
+        tableEditor = new CfgTableWidget(this);
+        tableEditor->setMinimumHeight(190);
+        tableEditor->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+        layout->addWidget(tableEditor);
+    } else {
+        list = new CfgListWidget(this);
+        list->setMinimumHeight(130);
+        layout->addWidget(list);
+    }
+
+    buttons = new QWidget(this);
+    auto *row = new QHBoxLayout(buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(buildInput(host->object(ref)), 1);
+    addButton = new QPushButton(networks ? tr("Dodaj sieć…") : tr("Dodaj"), buttons);
+    auto *removeButton = new QPushButton(tr("Usuń"), buttons);
+    row->addWidget(addButton);
+    row->addWidget(removeButton);
+    connect(addButton, &QPushButton::clicked, this, &CollectionPanel::add);
+    connect(removeButton, &QPushButton::clicked, this, &CollectionPanel::removeSelected);
+    if (list) {
+        auto *removeAllButton = new QPushButton(tr("Usuń wszystkie"), buttons);
+        row->addWidget(removeAllButton);
+        connect(removeAllButton, &QPushButton::clicked, this, &CollectionPanel::removeAll);
+    }
+    layout->addWidget(buttons);
+}
+
+QWidget *CollectionPanel::buildInput(const MainConfigObject &object)
+{
+    if (tableEditor) {
+        auto *fields = new QWidget(buttons);
+        auto *row = new QHBoxLayout(fields);
+        row->setContentsMargins(0, 0, 0, 0);
+        for (const QString &title : object.columnTitles) {
+            auto *input = new QLineEdit(fields);
+            input->setPlaceholderText(title);
+            row->addWidget(input);
+            inputs.append(input);
+        }
+        return fields;
+    }
+    if (object.type == 29) {
+        networks = true;
+        return new QWidget(buttons);
+    }
+    if (object.type == 24 || object.type == 8) {
+        // Named values are added by name; the host turns the name into the number.
+        names = new QComboBox(buttons);
+        names->setEditable(true);
+        for (const NamedUInt &named : object.valueNames.value<QList<NamedUInt>>())
+            names->addItem(named.name);
+        for (const NamedUShort &named : object.valueNames.value<QList<NamedUShort>>())
+            names->addItem(named.name);
+        return names;
+    }
+    auto *input = new QLineEdit(buttons);
+    input->setPlaceholderText(tr("Nowy identyfikator"));
+    inputs.append(input);
+    return input;
+}
+
+FormControl CollectionPanel::formControl()
+{
+    FormControl form;
+    form.widget = this;
+    QList<QWidget *> related{buttons};
+    if (label)
+        related.prepend(label);
+    form.bind = [this, related]() {
+        if (list)
+            list->setReference(table, ref, label, related);
+        else
+            tableEditor->setReference(table, ref, label, related);
+    };
+    form.refresh = [this](int hardwareId) {
+        if (list)
+            list->updateControl(hardwareId);
+        else
+            tableEditor->updateControl(hardwareId);
+    };
+    return form;
+}
+
+QVariant CollectionPanel::newElement()
+{
+    if (networks) {
+        // A mobile network id: the country code above the low 10 bits of the network code.
+        DualInputDlg dialog(0, this);
+        dialog.setWindowTitle(tr("Nowa sieć komórkowa"));
+        dialog.setLabels(tr("Kod kraju (MCC)"), tr("Kod sieci (MNC)"));
+        if (dialog.exec() != QDialog::Accepted)
+            return QVariant();
+        const uint country = dialog.getValue1().toUInt();
+        const uint network = dialog.getValue2().toUInt();
+        if (country == 0 || country > 999 || network > 999)
+            return QVariant();
+        return QVariant(uint(country << 10 | network));
+    }
+    if (names)
+        return names->currentText().isEmpty() ? QVariant() : QVariant(names->currentText());
+    QStringList texts;
+    for (QLineEdit *input : qAsConst(inputs))
+        texts.append(input->text().trimmed());
+    if (texts.value(0).isEmpty())
+        return QVariant();
+    for (QLineEdit *input : qAsConst(inputs))
+        input->clear();
+    return tableEditor ? QVariant(texts) : QVariant(texts.first());
+}
+
+void CollectionPanel::add()
+{
+    const QVariant element = newElement();
+    if (!element.isValid())
+        return;
+    if (list)
+        list->addValue(element, ref);
+    else
+        tableEditor->addValue(element, ref);
+}
+
+void CollectionPanel::removeSelected()
+{
+    // The list answers whether room is left; adding is possible again then.
+    if (list) {
+        addButton->setEnabled(list->remove(ref));
+    } else {
+        tableEditor->remove(ref);
+        tableEditor->updateControl(0); // the table does not repaint after a removal
+    }
+}
+
+void CollectionPanel::removeAll()
+{
+    addButton->setEnabled(list->removeAll(ref));
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "controlfactory.h"
+
+#include <QWidget>
+
+class CfgListWidget;
+class CfgTableWidget;
+class QComboBox;
+class QHBoxLayout;
+class QLineEdit;
+class QPushButton;
+
+// A collection editor with the buttons a host wires to it: an input for the new element,
+// "Dodaj", "Usuń" and "Usuń wszystkie". The input suits the element type: free text for
+// identifiers, the known names for named keys, a country and network code pair for
+// mobile networks, and one field per column for a table.
+class CollectionPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    CollectionPanel(const DemoTable::Parameter &parameter, MainConfigIFace *table,
+                    QWidget *label, QWidget *parent);
+
+    FormControl formControl();
+
+private slots:
+    void add();
+    void removeSelected();
+    void removeAll();
+
+private:
+    QWidget *buildInput(const MainConfigObject &object);
+    QVariant newElement();
+
+    MainConfigIFace *table;
+    int ref;
+    QWidget *label;
+    CfgListWidget *list = nullptr;
+    CfgTableWidget *tableEditor = nullptr;
+    QWidget *buttons;
+    QList<QLineEdit *> inputs;
+    QComboBox *names = nullptr;
+    QPushButton *addButton;
+    bool networks = false;
+};
