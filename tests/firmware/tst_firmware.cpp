@@ -1,0 +1,664 @@
+#include "telecfg/firmware/blockcipher_p.h"
+#include "telecfg/firmware/checksums.h"
+#include "telecfg/firmware/firmware.h"
+#include "telecfg/firmware/firmwarekeys.h"
+#include "tests/firmware/payloads.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+#include <lz4.h>
+
+Q_DECLARE_METATYPE(PayloadKind)
+
+namespace {
+constexpr int P = 2048;
+constexpr int record = P + 8;
+
+quint32 le32(const QByteArray &a, int at)
+{
+    return quint32(quint8(a[at])) | quint32(quint8(a[at + 1])) << 8 |
+           quint32(quint8(a[at + 2])) << 16 | quint32(quint8(a[at + 3])) << 24;
+}
+
+void setLe32(QByteArray &a, int at, quint32 v)
+{
+    for (int i = 0; i < 4; ++i)
+        a[at + i] = char(v >> (8 * i));
+}
+
+quint32 crcOf(const QByteArray &a, int from, int length)
+{
+    return crc32next(0, reinterpret_cast<const unsigned char *>(a.constData()) + from,
+                     quint64(length));
+}
+
+void refreshOuterChecksum(QByteArray &file)
+{
+    setLe32(file, 4,
+            docrc32(reinterpret_cast<const unsigned char *>(file.constData()) + 128,
+                    file.size() - 128));
+}
+
+firmware writer(unsigned compress)
+{
+    firmware fw;
+    fw.setCompress(compress);
+    fw.SetMark(1, 2, true, 0xA5);
+    fw.setHW(0x1234, 0x0042);
+    fw.setNameDate(QStringLiteral("tracker.bin"), QStringLiteral("2026-11-22"));
+    fw.setUserName(QStringLiteral("serwis"));
+    return fw;
+}
+
+QByteArray imageOf(const QByteArray &payload, unsigned compress)
+{
+    firmware fw = writer(compress);
+    return fw.encode(payload, false);
+}
+
+QByteArray fileOf(const QByteArray &payload, unsigned compress)
+{
+    QByteArray file = imageOf(payload, compress);
+    firmware::crypt(file, 0x1234, 0x0042, outerKey, compress);
+    return file;
+}
+
+QByteArray deciphered(QByteArray data, const unsigned char *key, int from = 0)
+{
+    BlockCipher::applyOnce(key, BlockCipher::Decipher, data, from);
+    return data;
+}
+
+// The enciphered image that recode must give for a compressed file of this payload: the
+// image written with page encipherment, its trailer carrying the plain image's checksum.
+QByteArray expectedRecoded(const QByteArray &payload)
+{
+    QByteArray expected = imageOf(payload, 0);
+    const QByteArray plain = imageOf(payload, 1);
+    expected.replace(expected.size() - 8, 4, plain.mid(plain.size() - 8, 4));
+    return expected;
+}
+
+// Writes a compressed body the way a plain LZ4 continuation would, with matches reaching
+// back up to 64 KiB.
+QByteArray unboundedBody(const QByteArray &image)
+{
+    QByteArray body = image.left(128);
+    LZ4_stream_t stream;
+    LZ4_initStream(&stream, sizeof stream);
+    char block[LZ4_COMPRESSBOUND(record)];
+    for (int at = 128; at < image.size(); at += record) {
+        const int n = qMin(record, image.size() - at);
+        const int packed = LZ4_compress_fast_continue(&stream, image.constData() + at, block, n,
+                                                      int(sizeof block), 1);
+        body.append(char(packed & 0xFF)).append(char(packed >> 8)).append(block, packed);
+    }
+    body.append(2, '\0');
+    body.append((16 - body.size() % 16) % 16, '\0');
+    BlockCipher::applyOnce(outerKey, BlockCipher::Encipher, body, 96);
+    return body;
+}
+} // namespace
+
+class TestFirmware : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void imageLayout_data();
+    void imageLayout();
+    void nameAndUserCuts_data();
+    void nameAndUserCuts();
+    void longDateMovesTheFields();
+    void pageLimits();
+    void pageSizeIsProcessWide();
+    void uncompressedFilePadding_data();
+    void uncompressedFilePadding();
+    void compressedFileLayout();
+    void compressedFilesReadBack_data();
+    void compressedFilesReadBack();
+    void unboundedStreamIsRejected();
+    void fileReturnCodes_data();
+    void fileReturnCodes();
+    void conversionRoutes();
+    void decryptRoutes();
+    void hostileBodies_data();
+    void hostileBodies();
+    void bitFlippedFilesNeverCrash();
+    void addEncodedFirmwareChecks_data();
+    void addEncodedFirmwareChecks();
+    void legacyWordChain();
+    void fileOperations();
+};
+
+void TestFirmware::imageLayout_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<unsigned>("compress");
+    QTest::addColumn<bool>("plain");
+
+    QTest::newRow("empty, enciphered") << 0 << 0u << false;
+    QTest::newRow("one byte, enciphered") << 1 << 0u << false;
+    QTest::newRow("whole page, plain") << P << 0u << true;
+    QTest::newRow("page and a byte, compress") << P + 1 << 1u << false;
+    QTest::newRow("twelve pages, enciphered") << 12 * P << 0u << false;
+    QTest::newRow("240 pages, compress") << 240 * P << 1u << false;
+}
+
+void TestFirmware::imageLayout()
+{
+    QFETCH(int, size);
+    QFETCH(unsigned, compress);
+    QFETCH(bool, plain);
+    const QByteArray payload = makePayload(PayloadKind::Random, size, 5);
+    firmware fw = writer(compress);
+    const QByteArray image = fw.encode(payload, plain);
+    const int pages = (size + P - 1) / P;
+    const bool enciphered = !plain && compress == 0;
+
+    QCOMPARE(image.size(), 136 + pages * record);
+    QCOMPARE(image.left(16), QByteArray("Vestramarks\0\0\0\0\0", 16));
+    QCOMPARE(image.mid(16, 32), QByteArray("tracker").leftJustified(32, '\0'));
+    QCOMPARE(image.mid(48, 20), QByteArray("2026-11-22").leftJustified(20, '\0'));
+    QCOMPARE(image.mid(68, 24), QByteArray("serwis").leftJustified(24, '\0'));
+    QCOMPARE(le32(image, 92), crcOf(image, 0, 92));
+
+    const QByteArray sizeBlock =
+        enciphered ? deciphered(image.mid(96, 32), pageKey) : image.mid(96, 32);
+    QCOMPARE(le32(sizeBlock, 0), quint32(image.size()));
+    QCOMPARE(sizeBlock.mid(8, 16), QByteArray("serwis").leftJustified(16, '\0'));
+    QCOMPARE(le32(sizeBlock, 24), quint32(pages));
+    QCOMPARE(le32(sizeBlock, 28), crcOf(sizeBlock, 0, 28));
+
+    QByteArray pagesRead;
+    for (int i = 0; i < pages; ++i) {
+        const int at = 128 + i * record;
+        QCOMPARE(le32(image, at + P), crcOf(image, at, P));
+        QCOMPARE(image[at + P + 4], "Vestramarks"[i % 11]);
+        QCOMPARE(image.mid(at + P + 5, 3), QByteArray::number(i + 1).rightJustified(3, '0'));
+        pagesRead += enciphered ? deciphered(image.mid(at, P), pageKey) : image.mid(at, P);
+    }
+    QCOMPARE(pagesRead, payload + QByteArray(pages * P - size, char(0xA5)));
+    QCOMPARE(le32(image, image.size() - 8), crcOf(image, 0, image.size() - 8));
+    QCOMPARE(image.right(4), QByteArray("VEST"));
+}
+
+void TestFirmware::nameAndUserCuts_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QString>("storedName");
+    QTest::addColumn<QString>("storedUser");
+
+    const QString longName = QString(40, QLatin1Char('n'));
+    QTest::newRow("last .bin cut") << "a.bin.old"
+                                   << "u"
+                                   << "a"
+                                   << "u";
+    QTest::newRow("cut at the last") << "x.bin.y.bin"
+                                     << "u"
+                                     << "x.bin.y"
+                                     << "u";
+    QTest::newRow(".bin at the start stays") << ".bin"
+                                             << "u"
+                                             << ".bin"
+                                             << "u";
+    QTest::newRow("case-sensitive") << "a.BIN"
+                                    << "u"
+                                    << "a.BIN"
+                                    << "u";
+    QTest::newRow("long name, long user")
+        << longName << "0123456789abcdefgh" << longName.left(31) << "0123456789abcde";
+}
+
+void TestFirmware::nameAndUserCuts()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, user);
+    QFETCH(QString, storedName);
+    QFETCH(QString, storedUser);
+    firmware fw = writer(0);
+    fw.setNameDate(name, QString());
+    fw.setUserName(user);
+    const QByteArray image = fw.encode(QByteArray(), false);
+    QCOMPARE(fw.name, storedName);
+    QCOMPARE(fw.userName, storedUser);
+    QCOMPARE(image.mid(16, 32), storedName.toLatin1().leftJustified(32, '\0'));
+    QCOMPARE(image.mid(68, 24), storedUser.toLatin1().leftJustified(24, '\0'));
+}
+
+void TestFirmware::longDateMovesTheFields()
+{
+    firmware fw = writer(1);
+    fw.setNameDate(QStringLiteral("n"), QString(50, QLatin1Char('d')));
+    fw.setUserName(QStringLiteral("VTM"));
+    const QByteArray image = fw.encode(QByteArray(10, 'x'), false);
+    QCOMPARE(image.mid(48, 50), QByteArray(50, 'd'));
+    QCOMPARE(image.mid(98, 3), QByteArray("VTM"));
+    QCOMPARE(le32(image, 101), crcOf(image, 0, 101));
+    // The size block still states the regular size.
+    QCOMPARE(le32(image, 105), quint32(136 + record));
+}
+
+void TestFirmware::pageLimits()
+{
+    firmware fw = writer(1);
+    QCOMPARE(fw.encode(QByteArray(240 * P, 'a'), false).size(), 136 + 240 * record);
+    QVERIFY(fw.encode(QByteArray(240 * P + 1, 'a'), false).isEmpty());
+    QByteArray out("untouched");
+    fw.addDecodedFirmware(QByteArray(240 * P + 1, 'a'));
+    QCOMPARE(fw.saveEncodedFile(out, QString()), 1);
+    QCOMPARE(out, QByteArray("untouched"));
+
+    // Reading accepts ten pages more than writing.
+    QCOMPARE(firmware::decode(QByteArray(250 * record + 8, 'p')).size(), 250 * P);
+    QVERIFY(firmware::decode(QByteArray(251 * record + 8, 'p')).isEmpty());
+    QVERIFY(firmware::decode(QByteArray(record + 7, 'p')).isEmpty());
+    QVERIFY(firmware::decode(QByteArray(5, 'p')).isEmpty());
+    QVERIFY(firmware::decode(QByteArray(8, 'p')).isEmpty());
+}
+
+void TestFirmware::pageSizeIsProcessWide()
+{
+    firmware fw = writer(1);
+    fw.setPageSize(1000);
+    firmware copy = fw; // copying leaves the page size alone
+    QCOMPARE(copy.encode(QByteArray(2500, 'z'), false).size(), 136 + 3 * 1008);
+    QCOMPARE(firmware::decode(QByteArray(2 * 1008 + 8, 'q')).size(), 2000);
+    fw.setPageSize(0);
+    QVERIFY(fw.encode(QByteArray(10, 'z'), false).isEmpty());
+    QVERIFY(firmware::decode(QByteArray(16, 'z')).isEmpty());
+    firmware fresh; // every default construction restores 2048
+    QCOMPARE(writer(1).encode(QByteArray(2500, 'z'), false).size(), 136 + 2 * record);
+}
+
+void TestFirmware::uncompressedFilePadding_data()
+{
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<int>("padding");
+    QTest::newRow("none") << 0 << 8;
+    QTest::newRow("odd") << 1 << 0;
+    QTest::newRow("even") << 2 << 8;
+}
+
+void TestFirmware::uncompressedFilePadding()
+{
+    QFETCH(int, pages);
+    QFETCH(int, padding);
+    const QByteArray image = imageOf(makePayload(PayloadKind::Random, pages * P), 0);
+    QByteArray file = image;
+    QCOMPARE(firmware::crypt(file, 0x71234, -1, nullptr, 0), 0);
+    QCOMPARE(file.size(), 128 + image.size() + padding);
+    QCOMPARE(file.mid(0, 4), QByteArray::fromHex("3412ffff"));
+    QCOMPARE(le32(file, 8), quint32(image.size()));
+    QCOMPARE(le32(file, 24), 0u);
+    QCOMPARE(le32(file, 28), quint32(image.size()));
+    QCOMPARE(file.mid(128, image.size()), image);
+    QCOMPARE(file.right(padding), QByteArray(padding, '\0'));
+    QCOMPARE(le32(file, 4), crcOf(file, 128, file.size() - 128));
+}
+
+void TestFirmware::compressedFileLayout()
+{
+    const QByteArray image = imageOf(makePayload(PayloadKind::FirmwareLike, 7 * P + 99), 1);
+    QByteArray file = image;
+    firmware::crypt(file, 1, 2, outerKey, 1);
+    QCOMPARE(le32(file, 24), 1u);
+    QCOMPARE(le32(file, 28), quint32(image.size()));
+    QCOMPARE(file.size() % 16, 0);
+    QCOMPARE(le32(file, 4), crcOf(file, 128, file.size() - 128));
+    QCOMPARE(file.mid(128, 96), image.left(96)); // the name block stays readable
+
+    // Walk the pieces with a stock decoder that keeps the whole history.
+    const QByteArray body = deciphered(file.mid(128), outerKey, 96);
+    QCOMPARE(body.mid(96, 32), image.mid(96, 32));
+    LZ4_streamDecode_t stream;
+    LZ4_setStreamDecode(&stream, nullptr, 0);
+    QByteArray rebuilt = body.left(128);
+    rebuilt.reserve(image.size());
+    quint32 total = 0;
+    int at = 128;
+    int pieces = 0;
+    for (int length; (length = quint8(body[at]) | quint8(body[at + 1]) << 8) != 0; ++pieces) {
+        const int start = rebuilt.size();
+        rebuilt.resize(start + record);
+        const int n = LZ4_decompress_safe_continue(&stream, body.constData() + at + 2,
+                                                   rebuilt.data() + start, length, record);
+        QVERIFY(n > 0);
+        rebuilt.resize(start + n);
+        total += quint32(length);
+        at += 2 + length;
+    }
+    QCOMPARE(rebuilt, image);
+    QCOMPARE(pieces, 9); // eight page records and the trailer alone
+    QCOMPARE(le32(file, 8), total);
+    QCOMPARE(body.size() - at - 2, (16 - (at + 2) % 16) % 16);
+}
+
+void TestFirmware::compressedFilesReadBack_data()
+{
+    QTest::addColumn<PayloadKind>("kind");
+    QTest::addColumn<int>("extra");
+    QTest::newRow("firmware-like") << PayloadKind::FirmwareLike << 0;
+    QTest::newRow("random, partial page") << PayloadKind::Random << 1000;
+    QTest::newRow("erased") << PayloadKind::Erased << 0;
+    QTest::newRow("far repeats, partial page") << PayloadKind::FarRepeats << 17;
+}
+
+void TestFirmware::compressedFilesReadBack()
+{
+    QFETCH(PayloadKind, kind);
+    QFETCH(int, extra);
+    const QByteArray all = makePayload(kind, 240 * P);
+    for (int pages = 0; pages <= 240; ++pages) {
+        const QByteArray payload = all.left(qMin(pages * P + (pages ? extra : 0), all.size()));
+        QByteArray body = fileOf(payload, 1).mid(128);
+        QCOMPARE(firmware::recode(body, outerKey), 0);
+        QCOMPARE(body, expectedRecoded(payload));
+    }
+}
+
+void TestFirmware::unboundedStreamIsRejected()
+{
+    // Without the dictionary limit, matches four pages back are beyond the reader's ring.
+    const QByteArray payload = makePayload(PayloadKind::FarRepeats, 12 * P);
+    QByteArray body = unboundedBody(imageOf(payload, 1));
+    QCOMPARE(firmware::recode(body, outerKey), 2);
+    QVERIFY(body != expectedRecoded(payload));
+}
+
+void TestFirmware::fileReturnCodes_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<int>("hw1");
+    QTest::addColumn<bool>("wantCompressed");
+    QTest::addColumn<bool>("decipher");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("result");
+    QTest::addColumn<int>("hw2After");
+
+    const QByteArray payload = makePayload(PayloadKind::FirmwareLike, 3 * P + 5);
+    const QByteArray form1 = fileOf(payload, 0);
+    const QByteArray form2 = fileOf(payload, 1);
+    QByteArray badTrailer = form2;
+    badTrailer[badTrailer.size() - 20] = char(badTrailer[badTrailer.size() - 20] ^ 0x40);
+    refreshOuterChecksum(badTrailer);
+    QByteArray badCrc = form1;
+    badCrc[200] = char(badCrc[200] ^ 1);
+    QByteArray longLength = form1;
+    setLe32(longLength, 8, quint32(form1.size() + 1));
+    QByteArray negativeLength = form1;
+    setLe32(negativeLength, 8, 0x80000000u);
+    QByteArray otherType = form1;
+    setLe32(otherType, 24, 7);
+    QByteArray form3 = payload;
+    firmware::crypt1(form3, 0x1234, 0x42, pageKey);
+    const QByteArray same = QByteArray("unchanged");
+
+    // hw1 is 0x1234 in every file, hw2 0x42; the caller's hw2 starts at 77.
+    QTest::newRow("short") << form1.left(127) << 0x1234 << false << false << 1 << same << 77;
+    QTest::newRow("length past the end") << longLength << 9 << false << false << 3 << same << 77;
+    QTest::newRow("not whole blocks")
+        << form1.left(form1.size() - 1) << 9 << false << false << 2 << same << 77;
+    QTest::newRow("bad checksum") << badCrc << 0x1234 << false << false << 4 << same << 77;
+    QTest::newRow("bad checksum, other hw") << badCrc << 9 << false << false << 4 << same << 0x42;
+    QTest::newRow("uncompressed") << form1 << 0x1234 << false << false << 0 << form1.mid(128) << 77;
+    QTest::newRow("uncompressed, other hw")
+        << form1 << 9 << false << false << 5 << form1.mid(128) << 0x42;
+    QTest::newRow("negative length is no length")
+        << negativeLength << 0x1234 << false << false << 0 << negativeLength.mid(128) << 77;
+    QTest::newRow("compressed") << form2 << 0x1234 << false << false << 0
+                                << expectedRecoded(payload) << 77;
+    QTest::newRow("compressed, other hw loses 5")
+        << form2 << 9 << false << false << 0 << expectedRecoded(payload) << 0x42;
+    QTest::newRow("compressed, damaged trailer")
+        << badTrailer << 0x1234 << false << false << 2 << QByteArray() << 77;
+    QTest::newRow("compressed wanted")
+        << form2 << 0x1234 << true << false << 0 << form2.mid(128) << 77;
+    QTest::newRow("other type") << otherType << 0x1234 << false << false << 1 << same << 77;
+    QTest::newRow("enciphered, deciphered")
+        << form3 << 0x1234 << false << true << 0 << payload << 77;
+}
+
+void TestFirmware::fileReturnCodes()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(int, hw1);
+    QFETCH(bool, wantCompressed);
+    QFETCH(bool, decipher);
+    QFETCH(int, code);
+    QFETCH(QByteArray, result);
+    int hw2 = 77;
+    unsigned encodedSize = 12345;
+    const QByteArray original = file;
+    QCOMPARE(firmware::getFirmwareFromFile(file, hw1, hw2, decipher ? pageKey : outerKey,
+                                           wantCompressed, encodedSize, decipher),
+             code);
+    QTEST(hw2, "hw2After");
+    QCOMPARE(hw1, hw2 == 77 && code < 4 ? hw1 : 0x1234);
+    if (result == "unchanged")
+        QCOMPARE(file, original);
+    else if (!result.isEmpty())
+        QCOMPARE(file, result);
+    // The size at offset 28 is taken once the outer checks have passed.
+    const bool checked = code == 0 || code == 5 || file != original ||
+                         QTest::currentDataTag() == QByteArray("other type");
+    QCOMPARE(encodedSize, checked ? le32(original, 28) : 12345u);
+}
+
+void TestFirmware::conversionRoutes()
+{
+    const QByteArray payload = makePayload(PayloadKind::FirmwareLike, 2 * P);
+    const QByteArray enciphered = imageOf(payload, 0);
+    QByteArray tagged = enciphered;
+    firmware::crypt1(tagged, 0x1234, 0x42, outerKey);
+    tagged.replace(24, 11, "Vestramarks");
+
+    auto readBack = [](QByteArray body) {
+        if (firmware::recode(body, outerKey) != 0)
+            return QByteArray("recode failed");
+        return deciphered(firmware::decode(body.mid(128)), pageKey);
+    };
+    struct Route
+    {
+        QByteArray file;
+        bool wantCompressed;
+        int headerKept;
+        QByteArray expected;
+    };
+    const Route routes[] = {
+        {tagged, false, 0, enciphered},
+        {tagged, true, 0, payload},
+        {fileOf(payload, 0), true, 128, payload},
+        // One page: decrypt1 drops the trailer itself and finds nothing to convert.
+        {fileOf(payload.left(P), 0), true, 128, QByteArray()},
+    };
+    for (const Route &route : routes) {
+        QByteArray file = route.file;
+        int hw1 = 0x1234;
+        int hw2 = 5;
+        unsigned encodedSize = 0;
+        bool want = route.wantCompressed;
+        QCOMPARE(firmware::getFirmwareFromFile(file, hw1, hw2, pageKey, want, encodedSize, false),
+                 0);
+        if (!want) {
+            QCOMPARE(file, route.expected);
+            QCOMPARE(QByteArray::number(encodedSize, 16), QByteArray("616d6172")); // "rama"
+            continue;
+        }
+        QCOMPARE(hw2, 0x42);
+        if (route.headerKept) {
+            QCOMPARE(le32(file, 24), 1u);
+            QCOMPARE(file.mid(0, 4), QByteArray::fromHex("34124200"));
+        }
+        QCOMPARE(file.mid(route.headerKept + 68, 4), QByteArray("VTM\0", 4));
+        QCOMPARE(readBack(file.mid(route.headerKept)), route.expected);
+    }
+}
+
+void TestFirmware::decryptRoutes()
+{
+    const QByteArray payload = makePayload(PayloadKind::Random, 4 * P);
+    QByteArray sealed = imageOf(payload, 0);
+    firmware::crypt1(sealed, 0xBEEF, 0x0102, outerKey);
+    int hw1 = 0;
+    int hw2 = 0;
+    QByteArray file = sealed;
+    QCOMPARE(firmware::decrypt(file, hw1, hw2, nullptr, 1), 0);
+    QCOMPARE(file, sealed);
+    QCOMPARE(hw1, 0xBEEF);
+    QCOMPARE(hw2, 0x0102);
+    QCOMPARE(firmware::decrypt(file, hw1, hw2, nullptr, 0), 0);
+    QCOMPARE(file, payload);
+
+    for (int pages : {1, 2, 3, 4}) {
+        QByteArray form1 = fileOf(payload.left(pages * P), 0);
+        QCOMPARE(firmware::decrypt1(form1, hw1, hw2, nullptr, 0), 0);
+        // Deliberate: with an odd page count decrypt1 cuts the trailer and gets nothing.
+        QCOMPARE(form1, pages % 2 ? QByteArray() : payload.left(pages * P));
+    }
+    for (QByteArray tiny : {QByteArray(), QByteArray(3, 'x'), QByteArray(200, 'y')}) {
+        QCOMPARE(firmware::decrypt(tiny, hw1, hw2, nullptr, 0), 0);
+        QVERIFY(tiny.isEmpty());
+    }
+}
+
+void TestFirmware::hostileBodies_data()
+{
+    QTest::addColumn<QByteArray>("body");
+
+    const QByteArray valid = fileOf(makePayload(PayloadKind::FirmwareLike, 6 * P), 1).mid(128);
+    const QByteArray head = imageOf(QByteArray(), 1).left(128);
+    auto body = [&](const QByteArray &tail) {
+        QByteArray b = head + tail;
+        b.append((16 - b.size() % 16) % 16, '\0');
+        BlockCipher::applyOnce(outerKey, BlockCipher::Encipher, b, 96);
+        return b;
+    };
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("a few bytes") << QByteArray(50, 'x');
+    QTest::newRow("headers only") << head;
+    QTest::newRow("terminator first") << body(QByteArray(2, '\0'));
+    QTest::newRow("pending above the accumulator")
+        << body(QByteArray::fromHex("0011") + QByteArray(64, 'a'));
+    QTest::newRow("no-length markers only") << body(QByteArray(64, char(0xFF)));
+    QTest::newRow("length past the end") << body(QByteArray::fromHex("0008") + QByteArray(30, 'a'));
+    QTest::newRow("garbage block")
+        << body(QByteArray::fromHex("4000") + QByteArray(64, char(0xF0)));
+    QTest::newRow("ends before the terminator") << valid.left(valid.size() - 48);
+    QTest::newRow("cut mid-way") << valid.left(valid.size() / 32 * 16);
+    QTest::newRow("cut, not whole blocks") << valid.left(valid.size() - 5);
+    QTest::newRow("wrong key") << deciphered(valid, pageKey, 96);
+}
+
+void TestFirmware::hostileBodies()
+{
+    QFETCH(QByteArray, body);
+    QCOMPARE(firmware::recode(body, outerKey), 2);
+    QVERIFY(body.size() <= 136 + 6 * record);
+}
+
+void TestFirmware::bitFlippedFilesNeverCrash()
+{
+    const QByteArray file = fileOf(makePayload(PayloadKind::FirmwareLike, 3 * P), 1);
+    for (int at = 0; at < file.size(); at += 7) {
+        QByteArray damaged = file;
+        damaged[at] = char(damaged[at] ^ (1 << (at % 8)));
+        if (at >= 8)
+            refreshOuterChecksum(damaged);
+        int hw1 = 0x1234;
+        int hw2 = 0;
+        unsigned size = 0;
+        bool want = false;
+        const int code =
+            firmware::getFirmwareFromFile(damaged, hw1, hw2, outerKey, want, size, false);
+        QVERIFY2(code >= 0 && code <= 5, qPrintable(QString::number(at)));
+        // Past the plain name block every change reaches a checksum the reader compares.
+        if (at >= 128 + 96)
+            QCOMPARE(code, 2);
+    }
+}
+
+void TestFirmware::addEncodedFirmwareChecks_data()
+{
+    QTest::addColumn<QByteArray>("array");
+    QTest::addColumn<int>("code");
+
+    auto sized = [](int size, quint32 stated) {
+        QByteArray a(size, 'r');
+        setLe32(a, 0, stated);
+        return a;
+    };
+    QTest::newRow("empty") << QByteArray() << -1;
+    QTest::newRow("below a record") << sized(P + 23, P + 23) << -1;
+    QTest::newRow("not whole records") << sized(P + 25, P + 25) << -1;
+    QTest::newRow("size word differs") << sized(16 + 2 * record, 7) << -2;
+    QTest::newRow("accepted, nothing decoded") << sized(16 + record, 16 + record) << 0;
+    QTest::newRow("an image is no such layout") << imageOf(QByteArray(P, 'i'), 1) << -1;
+}
+
+void TestFirmware::addEncodedFirmwareChecks()
+{
+    QFETCH(QByteArray, array);
+    firmware fw;
+    fw.addDecodedFirmware(QByteArray("old payload"));
+    QTEST(fw.addEncodedFirmware(array), "code");
+    QVERIFY(fw.payload.isEmpty());
+}
+
+void TestFirmware::legacyWordChain()
+{
+    firmware fw;
+    const QByteArray data = makePayload(PayloadKind::Random, 4003, 9);
+    const QByteArray encoded = fw.encode_old(data);
+    QCOMPARE(encoded.size(), 4000);
+    QCOMPARE(le32(encoded, 0), le32(data, 0) ^ (legacyChainSeed + legacyChainConstant));
+    QCOMPARE(le32(encoded, 4), le32(data, 4) ^ (le32(encoded, 0) + legacyChainConstant));
+    QCOMPARE(fw.decode_old(encoded), data.left(4000));
+    QCOMPARE(fw.decode_old(data).size(), 4000);
+
+    // A damaged cipher word spoils only itself and the word after it.
+    QByteArray damaged = encoded;
+    damaged[40] = char(damaged[40] ^ 0x10);
+    const QByteArray decoded = fw.decode_old(damaged);
+    QCOMPARE(decoded.left(40), data.left(40));
+    QVERIFY(decoded.mid(40, 8) != data.mid(40, 8));
+    QCOMPARE(decoded.mid(48), data.mid(48, 4000 - 48));
+}
+
+void TestFirmware::fileOperations()
+{
+    QTemporaryDir dir;
+    const QString raw = dir.filePath(QStringLiteral("raw.bin"));
+    firmware fw = writer(1);
+    fw.addDecodedFirmware(makePayload(PayloadKind::FirmwareLike, 5000));
+    QCOMPARE(fw.saveRawFile(raw), 0);
+    firmware loaded = writer(1);
+    QCOMPARE(loaded.loadRawFile(raw), 0);
+    QCOMPARE(loaded.payload, fw.payload);
+    QCOMPARE(loaded.payloadSize, 5000);
+
+    QByteArray out;
+    QCOMPARE(fw.saveEncodedFile(out, QStringLiteral("ignored")), 0);
+    QByteArray expected = fw.encode(fw.payload, false);
+    firmware::crypt(expected, 0x1234, 0x42, outerKey, 1);
+    QCOMPARE(out, expected);
+    QByteArray encodedOut("x");
+    QCOMPARE(fw.getEncodedFile(encodedOut), 0);
+    QCOMPARE(encodedOut, fw.encode(fw.payload, false));
+
+    const QString written = dir.path() + QStringLiteral("\\out.fw");
+    QCOMPARE(fw.saveEncodedFile(written), 0);
+    QFile file(dir.filePath(QStringLiteral("out.fw")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), out);
+    file.close();
+
+    fw.addDecodedFirmware(QByteArray(240 * P + 1, 'a'));
+    QCOMPARE(fw.saveEncodedFile(written), 1);
+    QVERIFY(!file.exists());
+    QCOMPARE(fw.loadEncodedFile(dir.filePath(QStringLiteral("missing"))), -1);
+}
+
+QTEST_APPLESS_MAIN(TestFirmware)
+#include "tst_firmware.moc"
