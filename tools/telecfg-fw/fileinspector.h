@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+// What the tool can tell of a firmware file: its outer header, the form it has, and where
+// the body can be read, the image inside it with every checksum verified.
+class FileInspector
+{
+public:
+    enum class Form { Unknown, Plain, Compressed, Sealed, Tagged };
+
+    struct Page
+    {
+        quint32 stored = 0;
+        quint32 computed = 0;
+        QByteArray label; // tag letter and page number, e.g. "V001"
+        bool labelHolds = false;
+    };
+
+    explicit FileInspector(const QByteArray &file);
+
+    static QString formName(Form form);
+    static constexpr int pageSize = 2048;
+
+    // Outer header.
+    bool headerRead = false;
+    quint16 hw1 = 0;
+    quint16 hw2 = 0;
+    quint32 storedChecksum = 0;
+    quint32 computedChecksum = 0;
+    quint32 length = 0;
+    quint32 type = 0;
+    quint32 size = 0;
+    bool tagged = false;
+    Form form = Form::Unknown;
+
+    // The image inside, where the body could be read.
+    bool imageRead = false;
+    QByteArray image;
+    QString name;
+    QString date;
+    QString userName;
+    bool nameBlockHolds = false;
+    bool sizeBlockHolds = false;
+    bool pagesEnciphered = false;
+    quint32 statedSize = 0;
+    quint32 statedPages = 0;
+    QVector<Page> pages;
+    quint32 trailerStored = 0;
+    quint32 trailerComputed = 0;
+    bool trailerHolds = false;
+
+    bool headerChecksumHolds() const { return storedChecksum == computedChecksum; }
+    bool allHold() const;
+    // The page payload, deciphered where the pages are enciphered.
+    QByteArray pagePayload() const;
+    QJsonObject toJson() const;
+
+private:
+    void readImage(const QByteArray &file);
+    void readNameAndSizeBlocks();
+    void readPages();
+};
