@@ -10,3 +10,21 @@ if(TELECFG_BUILD_TOOLS)
             -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/fwtool
             -P ${CMAKE_CURRENT_LIST_DIR}/fwtool_check.cmake)
 endif()
+
+# The fuzz targets' entry functions replay the seed corpus the library's own writer makes
+# (and any inputs kept under fuzz/corpus) in every build, whatever the compiler.
+set(telecfg_fuzz_dir ${PROJECT_SOURCE_DIR}/fuzz)
+add_executable(firmware_fuzz_seeds ${telecfg_fuzz_dir}/make_seeds.cpp)
+target_link_libraries(firmware_fuzz_seeds PRIVATE telecfg_static)
+telecfg_warnings(firmware_fuzz_seeds)
+add_test(NAME fuzz_seeds COMMAND firmware_fuzz_seeds ${CMAKE_CURRENT_BINARY_DIR}/fuzzcorpus)
+set_tests_properties(fuzz_seeds PROPERTIES FIXTURES_SETUP fuzz_corpus)
+foreach(target getfirmwarefromfile recode decode decrypt decrypt1 addencodedfirmware)
+    add_executable(replay_${target} ${telecfg_fuzz_dir}/fuzz_${target}.cpp
+        ${telecfg_fuzz_dir}/replay_main.cpp)
+    target_link_libraries(replay_${target} PRIVATE telecfg_static)
+    telecfg_warnings(replay_${target})
+    add_test(NAME fuzz_replay_${target} COMMAND replay_${target}
+        ${CMAKE_CURRENT_BINARY_DIR}/fuzzcorpus/${target} ${telecfg_fuzz_dir}/corpus/${target})
+    set_tests_properties(fuzz_replay_${target} PROPERTIES FIXTURES_REQUIRED fuzz_corpus)
+endforeach()

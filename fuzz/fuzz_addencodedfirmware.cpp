@@ -1,0 +1,15 @@
+// The encoded-image loader of the firmware object.
+#include "telecfg/firmware/firmware.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    firmware fw;
+    const int code =
+        fw.addEncodedFirmware(QByteArray(reinterpret_cast<const char *>(data), int(size)));
+    if (code != 0 && code != -1 && code != -2)
+        __builtin_trap();
+    return 0;
+}
