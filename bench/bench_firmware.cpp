@@ -1,0 +1,345 @@
+// Firmware files: packing and reading a 240-page image through the library, beside the
+// real work alone on the same bytes (LZ4 with the same stream settings, AES-128-ECB over
+// what the format enciphers, the library's checksums over what it checksums), and every
+// checksum beside zlib's crc32 and the plainest byte-at-a-time table loop.
+#include "telecfg/firmware/checksums.h"
+#include "telecfg/firmware/firmware.h"
+#include "telecfg/firmware/firmwarekeys.h"
+#include "tests/firmware/payloads.h"
+
+#include <array>
+#include <benchmark/benchmark.h>
+#include <lz4.h>
+#include <openssl/evp.h>
+#include <vector>
+#include <zlib.h>
+
+namespace {
+
+constexpr int pages = 240;
+constexpr int P = 2048;
+constexpr int record = P + 8;
+
+const unsigned char *u(const QByteArray &a)
+{
+    return reinterpret_cast<const unsigned char *>(a.constData());
+}
+
+void aes(const unsigned char *key, bool encipher, unsigned char *data, int length)
+{
+    static EVP_CIPHER *const cipher = EVP_CIPHER_fetch(nullptr, "AES-128-ECB", nullptr);
+    EVP_CIPHER_CTX *ctx = EVP_CIPHER_CTX_new();
+    EVP_CipherInit_ex2(ctx, cipher, key, nullptr, encipher ? 1 : 0, nullptr);
+    EVP_CIPHER_CTX_set_padding(ctx, 0);
+    int written = 0;
+    EVP_CipherUpdate(ctx, data, &written, data, length - length % 16);
+    EVP_CIPHER_CTX_free(ctx);
+}
+
+// The compressed form's pieces with the reader's dictionary limit, or a plain continuation.
+int compressPieces(const QByteArray &image, std::vector<char> &out, bool limited)
+{
+    LZ4_stream_t stream;
+    LZ4_initStream(&stream, sizeof stream);
+    char dictionary[record];
+    int total = 0;
+    for (int at = 128; at < image.size(); at += record) {
+        const int n = qMin(record, image.size() - at);
+        total += LZ4_compress_fast_continue(&stream, image.constData() + at, out.data() + total, n,
+                                            int(out.size()) - total, 1);
+        if (limited)
+            LZ4_saveDict(&stream, dictionary, n);
+    }
+    return total;
+}
+
+struct Sample
+{
+    QByteArray payload;
+    QByteArray plainImage;     // pages plain, as the compressed form holds them
+    QByteArray encipheredImage; // pages under the page key
+    QByteArray compressedFile;
+    QByteArray compressedStream; // the pieces alone, deciphered, with their lengths
+    std::vector<int> pieceLengths;
+    int limitedBytes = 0;
+    int unboundedBytes = 0;
+};
+
+const Sample &sample(int kind)
+{
+    static std::array<Sample, 2> samples;
+    Sample &s = samples[size_t(kind)];
+    if (!s.payload.isEmpty())
+        return s;
+    s.payload = makePayload(kind == 0 ? PayloadKind::FirmwareLike : PayloadKind::Random,
+                            pages * P, 3);
+    firmware fw;
+    fw.SetMark(0, 0, false, 0xFF);
+    fw.setCompress(1);
+    s.plainImage = fw.encode(s.payload, false);
+    fw.setCompress(0);
+    s.encipheredImage = fw.encode(s.payload, false);
+    s.compressedFile = s.plainImage;
+    firmware::crypt(s.compressedFile, 1, 2, outerKey, 1);
+
+    std::vector<char> buffer(size_t(LZ4_compressBound(s.plainImage.size())));
+    s.limitedBytes = compressPieces(s.plainImage, buffer, true);
+    s.unboundedBytes = compressPieces(s.plainImage, buffer, false);
+    LZ4_stream_t stream;
+    LZ4_initStream(&stream, sizeof stream);
+    char dictionary[record];
+    char block[LZ4_COMPRESSBOUND(record)];
+    for (int at = 128; at < s.plainImage.size(); at += record) {
+        const int n = qMin(record, s.plainImage.size() - at);
+        const int packed = LZ4_compress_fast_continue(&stream, s.plainImage.constData() + at,
+                                                      block, n, int(sizeof block), 1);
+        s.compressedStream.append(block, packed);
+        s.pieceLengths.push_back(packed);
+        LZ4_saveDict(&stream, dictionary, n);
+    }
+    return s;
+}
+
+void describe(benchmark::State &state, const Sample &s)
+{
+    state.SetBytesProcessed(state.iterations() * s.payload.size());
+    state.counters["file/image"] = double(s.compressedFile.size()) / s.plainImage.size();
+    state.counters["limit cost"] = double(s.limitedBytes) / s.unboundedBytes;
+}
+
+// Pipelines.
+
+void BM_PackCompressed(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    firmware fw;
+    fw.SetMark(0, 0, false, 0xFF);
+    fw.setCompress(1);
+    for (auto _ : state) {
+        QByteArray file = fw.encode(s.payload, false);
+        firmware::crypt(file, 1, 2, outerKey, 1);
+        benchmark::DoNotOptimize(file.data());
+    }
+    describe(state, s);
+}
+
+void BM_ReadCompressed(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    for (auto _ : state) {
+        QByteArray file = s.compressedFile;
+        int hw1 = 1;
+        int hw2 = 2;
+        bool want = false;
+        unsigned size = 0;
+        if (firmware::getFirmwareFromFile(file, hw1, hw2, outerKey, want, size, false) != 0)
+            state.SkipWithError("the file did not read back");
+        benchmark::DoNotOptimize(file.data());
+    }
+    describe(state, s);
+}
+
+void BM_SealAndOpen(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    for (auto _ : state) {
+        QByteArray file = s.encipheredImage;
+        firmware::crypt1(file, 1, 2, outerKey);
+        int hw1 = 0;
+        int hw2 = 0;
+        firmware::decrypt(file, hw1, hw2, outerKey, 0);
+        benchmark::DoNotOptimize(file.data());
+    }
+    describe(state, s);
+}
+
+// The same work without the format: what each pipeline cannot do without.
+
+void packParts(const Sample &s, std::vector<char> &out, QByteArray &scratch)
+{
+    compressPieces(s.plainImage, out, true);
+    // The compressed body from the size block on is enciphered.
+    const int enciphered = s.compressedFile.size() - 128 - 96;
+    aes(outerKey, true, reinterpret_cast<unsigned char *>(scratch.data()), enciphered);
+    const unsigned char *image = u(s.plainImage);
+    quint32 crc = crc32next(0, image, 92) ^ crc32next(0, image + 96, 28);
+    for (int i = 0; i < pages; ++i)
+        crc ^= crc32next(0, image + 128 + i * record, P);
+    crc ^= get_whole_crc(const_cast<unsigned char *>(image), s.plainImage.size() - 8, P);
+    crc ^= docrc32(u(s.compressedFile) + 128, s.compressedFile.size() - 128);
+    benchmark::DoNotOptimize(crc);
+}
+
+void readParts(const Sample &s, QByteArray &scratch)
+{
+    const QByteArray &file = s.compressedFile;
+    quint32 crc = docrc32(u(file) + 128, file.size() - 128);
+    aes(outerKey, false, reinterpret_cast<unsigned char *>(scratch.data()), file.size() - 224);
+    aes(pageKey, true, reinterpret_cast<unsigned char *>(scratch.data()), 32 + pages * P);
+    LZ4_streamDecode_t stream;
+    LZ4_setStreamDecode(&stream, nullptr, 0);
+    char ring[2 * record + 10];
+    int ringAt = 0;
+    const char *in = s.compressedStream.constData();
+    for (const int length : s.pieceLengths) {
+        const int n = LZ4_decompress_safe_continue(&stream, in, ring + ringAt, length, record);
+        in += length;
+        ringAt = ringAt == 0 ? n : 0;
+    }
+    crc ^= crc32next(0, u(s.plainImage), quint64(s.plainImage.size() - 8));
+    for (int i = 0; i < pages; ++i)
+        crc ^= crc32next(0, u(s.encipheredImage) + 128 + i * record, P);
+    benchmark::DoNotOptimize(crc);
+    benchmark::DoNotOptimize(ring);
+}
+
+void BM_PackCompressedParts(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    std::vector<char> out(size_t(LZ4_compressBound(s.plainImage.size())));
+    QByteArray scratch = s.compressedFile;
+    for (auto _ : state)
+        packParts(s, out, scratch);
+    describe(state, s);
+}
+
+void BM_ReadCompressedParts(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    QByteArray scratch = s.encipheredImage;
+    for (auto _ : state)
+        readParts(s, scratch);
+    describe(state, s);
+}
+
+void BM_SealAndOpenParts(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    QByteArray scratch = s.encipheredImage;
+    auto *data = reinterpret_cast<unsigned char *>(scratch.data());
+    for (auto _ : state) {
+        aes(outerKey, true, data, scratch.size());
+        benchmark::DoNotOptimize(docrc32(data, scratch.size()));
+        aes(outerKey, false, data, scratch.size());
+        aes(pageKey, false, data, pages * P);
+    }
+    describe(state, s);
+}
+
+// The parts one by one.
+
+void BM_PartLz4Compress(benchmark::State &state)
+{
+    const Sample &s = sample(int(state.range(0)));
+    std::vector<char> out(size_t(LZ4_compressBound(s.plainImage.size())));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(compressPieces(s.plainImage, out, true));
+    state.SetBytesProcessed(state.iterations() * s.plainImage.size());
+}
+
+void BM_PartAes(benchmark::State &state)
+{
+    QByteArray data = sample(0).encipheredImage;
+    for (auto _ : state)
+        aes(pageKey, true, reinterpret_cast<unsigned char *>(data.data()), data.size());
+    state.SetBytesProcessed(state.iterations() * data.size());
+}
+
+// Checksums over the image, in MB/s.
+
+template <typename F>
+void checksum(benchmark::State &state, F f)
+{
+    QByteArray data = sample(1).plainImage;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(f(data));
+    state.SetBytesProcessed(state.iterations() * data.size());
+}
+
+std::array<quint32, 256> plainTable()
+{
+    std::array<quint32, 256> t{};
+    for (quint32 i = 0; i < 256; ++i) {
+        quint32 c = i;
+        for (int k = 0; k < 8; ++k)
+            c = (c & 1) ? (c >> 1) ^ 0xEDB88320u : c >> 1;
+        t[i] = c;
+    }
+    return t;
+}
+
+// The fastest plain byte-at-a-time table loop: one lookup per byte, nothing else.
+void BM_Crc32PlainByteLoop(benchmark::State &state)
+{
+    static const std::array<quint32, 256> table = plainTable();
+    checksum(state, [](const QByteArray &d) {
+        quint32 c = 0xFFFFFFFFu;
+        const unsigned char *p = u(d);
+        const unsigned char *end = p + d.size();
+        while (p != end)
+            c = table[(c ^ *p++) & 0xFF] ^ (c >> 8);
+        return ~c;
+    });
+}
+
+void BM_ZlibCrc32(benchmark::State &state)
+{
+    checksum(state, [](const QByteArray &d) { return crc32(0, u(d), uInt(d.size())); });
+}
+
+void BM_Crc32Next(benchmark::State &state)
+{
+    checksum(state, [](const QByteArray &d) { return crc32next(0, u(d), quint64(d.size())); });
+}
+
+void BM_Docrc32(benchmark::State &state)
+{
+    checksum(state, [](const QByteArray &d) { return docrc32(u(d), d.size()); });
+}
+
+void BM_GetWholeCrc(benchmark::State &state)
+{
+    checksum(state, [](QByteArray &d) {
+        return get_whole_crc(reinterpret_cast<unsigned char *>(d.data()), d.size(), P);
+    });
+}
+
+void BM_Crc16(benchmark::State &state)
+{
+    checksum(state, [](QByteArray &d) { return crc16(d); });
+}
+
+void BM_Crc16Running(benchmark::State &state)
+{
+    checksum(state, [](QByteArray &d) {
+        quint16 value = 0;
+        crc16(&value, d.data(), d.size());
+        return value;
+    });
+}
+
+void BM_Crc8(benchmark::State &state)
+{
+    checksum(state, [](const QByteArray &d) { return crc8(d); });
+}
+
+} // namespace
+
+// Argument 0: firmware-like payload; 1: random payload.
+BENCHMARK(BM_PackCompressed)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PackCompressedParts)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ReadCompressed)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_ReadCompressedParts)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SealAndOpen)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SealAndOpenParts)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PartLz4Compress)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PartAes)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Crc32PlainByteLoop)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_ZlibCrc32)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Crc32Next)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_GetWholeCrc)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Docrc32)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Crc16)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Crc16Running)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Crc8)->Unit(benchmark::kMicrosecond);
+BENCHMARK_MAIN();
