@@ -56,7 +56,7 @@ int compressPieces(const QByteArray &image, std::vector<char> &out, bool limited
 struct Sample
 {
     QByteArray payload;
-    QByteArray plainImage;     // pages plain, as the compressed form holds them
+    QByteArray plainImage;      // pages plain, as the compressed form holds them
     QByteArray encipheredImage; // pages under the page key
     QByteArray compressedFile;
     QByteArray compressedStream; // the pieces alone, deciphered, with their lengths
@@ -71,8 +71,8 @@ const Sample &sample(int kind)
     Sample &s = samples[size_t(kind)];
     if (!s.payload.isEmpty())
         return s;
-    s.payload = makePayload(kind == 0 ? PayloadKind::FirmwareLike : PayloadKind::Random,
-                            pages * P, 3);
+    s.payload =
+        makePayload(kind == 0 ? PayloadKind::FirmwareLike : PayloadKind::Random, pages * P, 3);
     firmware fw;
     fw.SetMark(0, 0, false, 0xFF);
     fw.setCompress(1);
@@ -91,8 +91,8 @@ const Sample &sample(int kind)
     char block[LZ4_COMPRESSBOUND(record)];
     for (int at = 128; at < s.plainImage.size(); at += record) {
         const int n = qMin(record, s.plainImage.size() - at);
-        const int packed = LZ4_compress_fast_continue(&stream, s.plainImage.constData() + at,
-                                                      block, n, int(sizeof block), 1);
+        const int packed = LZ4_compress_fast_continue(&stream, s.plainImage.constData() + at, block,
+                                                      n, int(sizeof block), 1);
         s.compressedStream.append(block, packed);
         s.pieceLengths.push_back(packed);
         LZ4_saveDict(&stream, dictionary, n);
@@ -206,7 +206,7 @@ void BM_PackCompressedParts(benchmark::State &state)
 void BM_ReadCompressedParts(benchmark::State &state)
 {
     const Sample &s = sample(int(state.range(0)));
-    QByteArray scratch = s.encipheredImage;
+    QByteArray scratch(qMax(s.compressedFile.size(), s.encipheredImage.size()), '\0');
     for (auto _ : state)
         readParts(s, scratch);
     describe(state, s);
@@ -247,8 +247,7 @@ void BM_PartAes(benchmark::State &state)
 
 // Checksums over the image, in MB/s.
 
-template <typename F>
-void checksum(benchmark::State &state, F f)
+template <typename F> void checksum(benchmark::State &state, F f)
 {
     QByteArray data = sample(1).plainImage;
     for (auto _ : state)

@@ -28,8 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const bool decipher = flags & 2;
     unsigned encodedSize = 0;
     const unsigned char *key = (flags & 8) ? pageKey : outerKey;
-    const int code = firmware::getFirmwareFromFile(file, hw1, hw2, key, wantCompressed,
-                                                   encodedSize, decipher);
+    const int code =
+        firmware::getFirmwareFromFile(file, hw1, hw2, key, wantCompressed, encodedSize, decipher);
     if (code < 0 || code > 5)
         __builtin_trap();
     return 0;

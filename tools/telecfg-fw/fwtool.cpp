@@ -71,42 +71,49 @@ int FwTool::fail(int status, const QString &message)
     return status;
 }
 
-bool FwTool::readFile(const QString &path, QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    content = file.readAll();
-    return file.error() == QFileDevice::NoError;
-}
-
 bool FwTool::writeFile(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
 }
 
-// Parses a command's options; returns -1 to go on, or the exit status to leave with.
-static int parseCommand(QCommandLineParser &parser, const QStringList &arguments, int positionals,
-                        QTextStream &out, QTextStream &err)
+// Parses a command's options and checks for the one input file and, where the command writes
+// one, the output option; reads the input where asked.
+int FwTool::begin(QCommandLineParser &parser, const QStringList &arguments,
+                  const QCommandLineOption *output, QByteArray *input)
 {
     const QCommandLineOption help = parser.addHelpOption();
     // The usage line names the command rather than the program's full path.
     const QString helpText = parser.helpText().replace(QCoreApplication::arguments().constFirst(),
                                                        arguments.constFirst());
-    if (!parser.parse(arguments)) {
-        err << "telecfg-fw: " << parser.errorText() << '\n';
-        return FwTool::BadArguments;
-    }
+    if (!parser.parse(arguments))
+        return fail(BadArguments, parser.errorText());
     if (parser.isSet(help)) {
         out << helpText;
-        return FwTool::Success;
+        return Success;
     }
-    if (parser.positionalArguments().size() != positionals) {
-        err << "telecfg-fw: " << FwTool::tr("Oczekiwano jednego pliku wejściowego.") << "\n\n"
-            << helpText;
-        return FwTool::BadArguments;
-    }
+    if (parser.positionalArguments().size() != 1)
+        return fail(BadArguments, tr("Oczekiwano jednego pliku wejściowego.") + "\n\n" + helpText);
+    if (output && !parser.isSet(*output))
+        return fail(BadArguments, tr("Brak pliku wynikowego (-o)."));
+    return input ? readInput(parser, *input) : -1;
+}
+
+QCommandLineOption FwTool::expectedHw1Option()
+{
+    return QCommandLineOption({QStringLiteral("hw1")}, tr("oczekiwane pierwsze słowo sprzętu"),
+                              QStringLiteral("N"));
+}
+
+int FwTool::readInput(const QCommandLineParser &parser, QByteArray &content)
+{
+    const QString path = parser.positionalArguments().constFirst();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(Unreadable, tr("Nie można odczytać pliku: %1").arg(path));
+    content = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return fail(Unreadable, tr("Nie można odczytać pliku: %1").arg(path));
     return -1;
 }
 
@@ -135,12 +142,8 @@ int FwTool::pack(const QStringList &arguments)
                                  tr("wypełnienie ostatniej strony: bajt lub random"),
                                  QStringLiteral("BYTE"), QStringLiteral("0xFF"));
     parser.addOptions({output, hw1, hw2, name, date, user, form, pad});
-    const int parsed = parseCommand(parser, arguments, 1, out, err);
-    if (parsed >= 0)
-        return parsed;
-
-    if (!parser.isSet(output))
-        return fail(BadArguments, tr("Brak pliku wynikowego (-o)."));
+    if (const int status = begin(parser, arguments, &output, nullptr); status >= 0)
+        return status;
     quint32 hwFirst = 0;
     quint32 hwSecond = 0;
     if (!parseNumber(parser.value(hw1), 0xFFFF, hwFirst))
@@ -158,8 +161,8 @@ int FwTool::pack(const QStringList &arguments)
 
     const QString rawPath = parser.positionalArguments().constFirst();
     QByteArray raw;
-    if (!readFile(rawPath, raw))
-        return fail(Unreadable, tr("Nie można odczytać pliku: %1").arg(rawPath));
+    if (const int status = readInput(parser, raw); status >= 0)
+        return status;
 
     firmware fw;
     fw.setHW(quint16(hwFirst), quint16(hwSecond));
@@ -200,14 +203,10 @@ int FwTool::info(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("plik firmware"));
     const QCommandLineOption json({QStringLiteral("json")}, tr("wynik w formacie JSON"));
     parser.addOption(json);
-    const int parsed = parseCommand(parser, arguments, 1, out, err);
-    if (parsed >= 0)
-        return parsed;
-
-    const QString path = parser.positionalArguments().constFirst();
     QByteArray file;
-    if (!readFile(path, file))
-        return fail(Unreadable, tr("Nie można odczytać pliku: %1").arg(path));
+    if (const int status = begin(parser, arguments, nullptr, &file); status >= 0)
+        return status;
+    const QString path = parser.positionalArguments().constFirst();
     const FileInspector inspector(file);
     if (parser.isSet(json)) {
         out << QJsonDocument(inspector.toJson()).toJson(QJsonDocument::Indented);
@@ -271,32 +270,32 @@ QString FwTool::reason(int code, int hw1, int hw2)
     return tr("Nieznany wynik odczytu: %1").arg(code);
 }
 
-int FwTool::readAsHost(const QByteArray &file, const QString &hw1Option, QByteArray &result,
-                       int &hw1, int &hw2)
+int FwTool::readAsHost(const QCommandLineParser &parser, const QByteArray &file, HostRead &read)
 {
     const FileInspector inspector(file);
-    hw1 = inspector.hw1;
-    hw2 = inspector.hw2;
-    if (!hw1Option.isEmpty()) {
+    read.hw1 = inspector.hw1;
+    read.hw2 = inspector.hw2;
+    const QString hw1Text = parser.value(expectedHw1Option());
+    if (!hw1Text.isEmpty()) {
         quint32 wanted = 0;
-        if (!parseNumber(hw1Option, 0xFFFF, wanted))
-            return -1;
-        hw1 = int(wanted);
+        if (!parseNumber(hw1Text, 0xFFFF, wanted))
+            return fail(BadArguments, tr("Niepoprawna wartość --hw1: %1").arg(hw1Text));
+        read.hw1 = int(wanted);
     }
-    const int wanted = hw1;
-    result = file;
+    const int wanted = read.hw1;
+    read.result = file;
     bool wantCompressed = false;
     unsigned encodedSize = 0;
-    const int code =
-        firmware::getFirmwareFromFile(result, hw1, hw2, outerKey, wantCompressed, encodedSize,
-                                      inspector.form == FileInspector::Form::Sealed);
+    read.code =
+        firmware::getFirmwareFromFile(read.result, read.hw1, read.hw2, outerKey, wantCompressed,
+                                      encodedSize, inspector.form == FileInspector::Form::Sealed);
     // The reader drops its "other hardware" code on the compressed route; the tool keeps it.
-    if (code == 0 && inspector.headerRead && inspector.hw1 != wanted) {
-        hw1 = inspector.hw1;
-        hw2 = inspector.hw2;
-        return 5;
+    if (read.code == 0 && inspector.headerRead && inspector.hw1 != wanted) {
+        read.hw1 = inspector.hw1;
+        read.hw2 = inspector.hw2;
+        read.code = 5;
     }
-    return code;
+    return -1;
 }
 
 int FwTool::unpack(const QStringList &arguments)
@@ -308,41 +307,30 @@ int FwTool::unpack(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("plik firmware"));
     const QCommandLineOption output({QStringLiteral("o"), QStringLiteral("output")},
                                     tr("plik wynikowy"), QStringLiteral("OUT"));
-    const QCommandLineOption hw1({QStringLiteral("hw1")}, tr("oczekiwane pierwsze słowo sprzętu"),
-                                 QStringLiteral("N"));
+    const QCommandLineOption hw1 = expectedHw1Option();
     const QCommandLineOption raw({QStringLiteral("raw")}, tr("odszyfrowane dane stron"));
     parser.addOptions({output, hw1, raw});
-    const int parsed = parseCommand(parser, arguments, 1, out, err);
-    if (parsed >= 0)
-        return parsed;
-    if (!parser.isSet(output))
-        return fail(BadArguments, tr("Brak pliku wynikowego (-o)."));
-
-    const QString path = parser.positionalArguments().constFirst();
     QByteArray file;
-    if (!readFile(path, file))
-        return fail(Unreadable, tr("Nie można odczytać pliku: %1").arg(path));
+    if (const int status = begin(parser, arguments, &output, &file); status >= 0)
+        return status;
 
-    QByteArray result;
-    int code = 0;
-    int hwFirst = 0;
-    int hwSecond = 0;
+    HostRead read;
     if (parser.isSet(raw)) {
         const FileInspector inspector(file);
         if (!inspector.imageRead)
-            return fail(NotVerified, tr("Nie można odczytać obrazu z pliku: %1").arg(path));
-        result = inspector.pagePayload();
+            return fail(NotVerified, tr("Nie można odczytać obrazu z pliku: %1")
+                                         .arg(parser.positionalArguments().constFirst()));
+        read.result = inspector.pagePayload();
     } else {
-        code = readAsHost(file, parser.value(hw1), result, hwFirst, hwSecond);
-        if (code < 0)
-            return fail(BadArguments, tr("Niepoprawna wartość --hw1: %1").arg(parser.value(hw1)));
-        if (code != 0 && code != 5)
-            return fail(FileCode + code, reason(code, hwFirst, hwSecond));
+        if (const int status = readAsHost(parser, file, read); status >= 0)
+            return status;
+        if (read.code != 0 && read.code != 5)
+            return fail(FileCode + read.code, reason(read.code, read.hw1, read.hw2));
     }
-    if (!writeFile(parser.value(output), result))
+    if (!writeFile(parser.value(output), read.result))
         return fail(Unwritable, tr("Nie można zapisać pliku: %1").arg(parser.value(output)));
-    if (code == 5)
-        return fail(FileCode + code, reason(code, hwFirst, hwSecond));
+    if (read.code == 5)
+        return fail(FileCode + read.code, reason(read.code, read.hw1, read.hw2));
     return Success;
 }
 
@@ -353,23 +341,14 @@ int FwTool::verify(const QStringList &arguments)
         tr("Sprawdza plik firmware tak, jak konfigurator przed wysłaniem; status wyjścia to "
            "10 + kod odczytu, 0 gdy plik jest poprawny."));
     parser.addPositionalArgument(QStringLiteral("FILE"), tr("plik firmware"));
-    const QCommandLineOption hw1({QStringLiteral("hw1")}, tr("oczekiwane pierwsze słowo sprzętu"),
-                                 QStringLiteral("N"));
-    parser.addOption(hw1);
-    const int parsed = parseCommand(parser, arguments, 1, out, err);
-    if (parsed >= 0)
-        return parsed;
-
-    const QString path = parser.positionalArguments().constFirst();
+    parser.addOption(expectedHw1Option());
     QByteArray file;
-    if (!readFile(path, file))
-        return fail(Unreadable, tr("Nie można odczytać pliku: %1").arg(path));
-    QByteArray result;
-    int hwFirst = 0;
-    int hwSecond = 0;
-    const int code = readAsHost(file, parser.value(hw1), result, hwFirst, hwSecond);
-    if (code < 0)
-        return fail(BadArguments, tr("Niepoprawna wartość --hw1: %1").arg(parser.value(hw1)));
-    out << path << ": " << reason(code, hwFirst, hwSecond) << '\n';
-    return code == 0 ? Success : FileCode + code;
+    if (const int status = begin(parser, arguments, nullptr, &file); status >= 0)
+        return status;
+    HostRead read;
+    if (const int status = readAsHost(parser, file, read); status >= 0)
+        return status;
+    out << parser.positionalArguments().constFirst() << ": "
+        << reason(read.code, read.hw1, read.hw2) << '\n';
+    return read.code == 0 ? Success : FileCode + read.code;
 }

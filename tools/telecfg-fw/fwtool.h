@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCommandLineOption>
+#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QStringList>
 #include <QTextStream>
@@ -30,12 +32,26 @@ private:
     int unpack(const QStringList &arguments);
     int verify(const QStringList &arguments);
 
+    // What the configurator takes from a file, with the reader's code and hardware words.
+    struct HostRead
+    {
+        int code = 0;
+        int hw1 = 0;
+        int hw2 = 0;
+        QByteArray result;
+    };
+
+    // Prints the reason and gives the status back.
     int fail(int status, const QString &message);
-    bool readFile(const QString &path, QByteArray &content);
+    // These return -1 to go on, or the exit status to leave with (the reason printed).
+    int begin(QCommandLineParser &parser, const QStringList &arguments,
+              const QCommandLineOption *output, QByteArray *input);
+    int readInput(const QCommandLineParser &parser, QByteArray &content);
+    int readAsHost(const QCommandLineParser &parser, const QByteArray &file, HostRead &read);
+
     bool writeFile(const QString &path, const QByteArray &content);
+    static QCommandLineOption expectedHw1Option();
     static QString reason(int code, int hw1, int hw2);
-    int readAsHost(const QByteArray &file, const QString &hw1Option, QByteArray &result, int &hw1,
-                   int &hw2);
 
     QTextStream out{stdout};
     QTextStream err{stderr};
