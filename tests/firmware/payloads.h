@@ -39,7 +39,15 @@ inline QByteArray makePayload(PayloadKind kind, int size, quint32 seed = 1)
             if ((i / 2048) % 9 == 8)
                 continue; // an erased page now and then
             const quint32 pick = random.bounded(100);
-            const quint16 word = pick < 75 ? opcodes[random.bounded(int(std::size(opcodes)))]
+            if (pick < 4 && i >= 1024 && i + 32 <= size) {
+                // A sequence seen shortly before: prologues, epilogues, inlined helpers.
+                const int from = i - 2 * int(random.bounded(16, 512));
+                for (int k = 0; k < 32; ++k)
+                    p[i + k] = p[from + k];
+                i += 30;
+                continue;
+            }
+            const quint16 word = pick < 85 ? opcodes[random.bounded(int(std::size(opcodes)))]
                                            : quint16(random.bounded(65536));
             p[i] = char(word & 0xFF);
             p[i + 1] = char(word >> 8);
