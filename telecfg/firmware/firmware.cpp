@@ -529,7 +529,7 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
             pending = int(quint8(accumulator[0]) | quint8(accumulator[1]) << 8);
             accumulator.erase(accumulator.begin(), accumulator.begin() + 2);
         }
-        if (pending == 0 || pending > accumulatorCapacity)
+        if (pending == 0)
             break;
         if (pending == 0xFFFF) {
             pending = -1;
@@ -537,6 +537,8 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
                 break;
             continue;
         }
+        if (pending > accumulatorCapacity)
+            break;
         if (int(accumulator.size()) < pending) {
             if (last)
                 break;
