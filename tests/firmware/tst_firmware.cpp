@@ -399,6 +399,8 @@ void TestFirmware::fileReturnCodes_data()
     // hw1 is 0x1234 in every file, hw2 0x42; the caller's hw2 starts at 77.
     QTest::newRow("short") << form1.left(127) << 0x1234 << false << false << 1 << same << 77;
     QTest::newRow("length past the end") << longLength << 9 << false << false << 3 << same << 77;
+    QTest::newRow("length past the end, not whole blocks")
+        << longLength.left(form1.size() - 1) << 9 << false << false << 3 << same << 77;
     QTest::newRow("not whole blocks")
         << form1.left(form1.size() - 1) << 9 << false << false << 2 << same << 77;
     QTest::newRow("bad checksum") << badCrc << 0x1234 << false << false << 4 << same << 77;
