@@ -47,6 +47,7 @@ public:
     void setUserName(QString userName);
     void SetMark(unsigned first, unsigned second, bool enabled, int padFill);
 
+    // Fields a host has not set start defined: no compression, marks clear, erased-flash fill.
     QByteArray payload;
     qint32 payloadSize = 0;
     qint32 reservedWord = 0;

@@ -2,7 +2,7 @@
 
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/firmware/firmwarekeys.h"
-#include "tools/telecfg-fw/fileinspector.h"
+#include "tools/telecfg-fw/filereport.h"
 
 #include <QCommandLineParser>
 #include <QDate>
@@ -207,46 +207,46 @@ int FwTool::info(const QStringList &arguments)
     if (const int status = begin(parser, arguments, nullptr, &file); status >= 0)
         return status;
     const QString path = parser.positionalArguments().constFirst();
-    const FileInspector inspector(file);
+    const FileReport report(file);
     if (parser.isSet(json)) {
-        out << QJsonDocument(inspector.toJson()).toJson(QJsonDocument::Indented);
-        return inspector.allHold() ? Success : NotVerified;
+        out << QJsonDocument(report.toJson()).toJson(QJsonDocument::Indented);
+        return report.allHold() ? Success : NotVerified;
     }
-    if (!inspector.headerRead)
+    if (!report.headerRead)
         return fail(NotVerified, tr("Plik krótszy niż 128 bajtów: %1").arg(path));
 
     out << tr("Nagłówek: hw1 %1, hw2 %2, długość %3, typ %4, rozmiar %5")
-               .arg(hex(inspector.hw1, 4), hex(inspector.hw2, 4))
-               .arg(inspector.length)
-               .arg(inspector.tagged ? tr("znacznik") : QString::number(inspector.type))
-               .arg(inspector.size)
+               .arg(hex(report.hw1, 4), hex(report.hw2, 4))
+               .arg(report.length)
+               .arg(report.tagged ? tr("znacznik") : QString::number(report.type))
+               .arg(report.size)
         << '\n'
         << tr("Suma kontrolna nagłówka: %1, %2")
-               .arg(hex(inspector.storedChecksum, 8), holds(inspector.headerChecksumHolds()))
+               .arg(hex(report.storedChecksum, 8), holds(report.headerChecksumHolds()))
         << '\n'
-        << tr("Forma: %1").arg(FileInspector::formName(inspector.form)) << '\n';
-    if (!inspector.imageRead) {
+        << tr("Forma: %1").arg(FileReport::formName(report.form)) << '\n';
+    if (!report.imageRead) {
         out << tr("Treści pliku nie można odczytać.") << '\n';
         return NotVerified;
     }
-    out << tr("Nazwa: %1").arg(inspector.name) << '\n'
-        << tr("Data: %1").arg(inspector.date) << '\n'
-        << tr("Użytkownik: %1").arg(inspector.userName) << '\n'
+    out << tr("Nazwa: %1").arg(report.name) << '\n'
+        << tr("Data: %1").arg(report.date) << '\n'
+        << tr("Użytkownik: %1").arg(report.userName) << '\n'
         << tr("Blok nazwy: %1, blok rozmiaru: %2")
-               .arg(holds(inspector.nameBlockHolds), holds(inspector.sizeBlockHolds))
+               .arg(holds(report.nameBlockHolds), holds(report.sizeBlockHolds))
         << '\n'
         << tr("Strony: %1 (w bloku rozmiaru: %2), szyfrowane: %3")
-               .arg(inspector.pages.size())
-               .arg(inspector.statedPages)
-               .arg(inspector.pagesEnciphered ? tr("tak") : tr("nie"))
+               .arg(report.pages.size())
+               .arg(report.statedPages)
+               .arg(report.pagesEnciphered ? tr("tak") : tr("nie"))
         << '\n';
-    for (const FileInspector::Page &page : inspector.pages) {
+    for (const FileReport::Page &page : report.pages) {
         out << "  " << QString::fromLatin1(page.label) << ' ' << hex(page.stored, 8) << ' '
             << holds(page.stored == page.computed && page.labelHolds) << '\n';
     }
-    out << tr("Stopka: %1, %2").arg(hex(inspector.trailerStored, 8), holds(inspector.trailerHolds))
+    out << tr("Stopka: %1, %2").arg(hex(report.trailerStored, 8), holds(report.trailerHolds))
         << '\n';
-    return inspector.allHold() ? Success : NotVerified;
+    return report.allHold() ? Success : NotVerified;
 }
 
 QString FwTool::reason(int code, int hw1, int hw2)
@@ -272,9 +272,9 @@ QString FwTool::reason(int code, int hw1, int hw2)
 
 int FwTool::readAsHost(const QCommandLineParser &parser, const QByteArray &file, HostRead &read)
 {
-    const FileInspector inspector(file);
-    read.hw1 = inspector.hw1;
-    read.hw2 = inspector.hw2;
+    const FileReport report(file);
+    read.hw1 = report.hw1;
+    read.hw2 = report.hw2;
     const QString hw1Text = parser.value(expectedHw1Option());
     if (!hw1Text.isEmpty()) {
         quint32 wanted = 0;
@@ -288,11 +288,11 @@ int FwTool::readAsHost(const QCommandLineParser &parser, const QByteArray &file,
     unsigned encodedSize = 0;
     read.code =
         firmware::getFirmwareFromFile(read.result, read.hw1, read.hw2, outerKey, wantCompressed,
-                                      encodedSize, inspector.form == FileInspector::Form::Sealed);
+                                      encodedSize, report.form == FileReport::Form::Sealed);
     // The reader drops its "other hardware" code on the compressed route; the tool keeps it.
-    if (read.code == 0 && inspector.headerRead && inspector.hw1 != wanted) {
-        read.hw1 = inspector.hw1;
-        read.hw2 = inspector.hw2;
+    if (read.code == 0 && report.headerRead && report.hw1 != wanted) {
+        read.hw1 = report.hw1;
+        read.hw2 = report.hw2;
         read.code = 5;
     }
     return -1;
@@ -316,11 +316,11 @@ int FwTool::unpack(const QStringList &arguments)
 
     HostRead read;
     if (parser.isSet(raw)) {
-        const FileInspector inspector(file);
-        if (!inspector.imageRead)
+        const FileReport report(file);
+        if (!report.imageRead)
             return fail(NotVerified, tr("Nie można odczytać obrazu z pliku: %1")
                                          .arg(parser.positionalArguments().constFirst()));
-        read.result = inspector.pagePayload();
+        read.result = report.pagePayload();
     } else {
         if (const int status = readAsHost(parser, file, read); status >= 0)
             return status;

@@ -7,7 +7,7 @@
 
 // What the tool can tell of a firmware file: its outer header, the form it has, and where
 // the body can be read, the image inside it with every checksum verified.
-class FileInspector
+class FileReport
 {
 public:
     enum class Form { Unknown, Plain, Compressed, Sealed, Tagged };
@@ -20,7 +20,7 @@ public:
         bool labelHolds = false;
     };
 
-    explicit FileInspector(const QByteArray &file);
+    explicit FileReport(const QByteArray &file);
 
     static QString formName(Form form);
     static constexpr int pageSize = 2048;

@@ -1,4 +1,4 @@
-#include "tools/telecfg-fw/fileinspector.h"
+#include "tools/telecfg-fw/filereport.h"
 
 #include "telecfg/firmware/blockcipher_p.h"
 #include "telecfg/firmware/checksums.h"
@@ -11,7 +11,7 @@
 namespace {
 
 constexpr char tag[] = "Vestramarks";
-constexpr int record = FileInspector::pageSize + 8;
+constexpr int record = FileReport::pageSize + 8;
 
 quint32 le32(const QByteArray &a, int at)
 {
@@ -42,7 +42,7 @@ QString hex(quint32 value)
 
 } // namespace
 
-FileInspector::FileInspector(const QByteArray &file)
+FileReport::FileReport(const QByteArray &file)
 {
     if (file.size() < 128)
         return;
@@ -67,7 +67,7 @@ FileInspector::FileInspector(const QByteArray &file)
     readImage(file);
 }
 
-QString FileInspector::formName(Form form)
+QString FileReport::formName(Form form)
 {
     switch (form) {
     case Form::Plain:
@@ -84,7 +84,7 @@ QString FileInspector::formName(Form form)
     return QStringLiteral("unknown");
 }
 
-void FileInspector::readImage(const QByteArray &file)
+void FileReport::readImage(const QByteArray &file)
 {
     QByteArray body = file.mid(128);
     int recodeResult = -1;
@@ -118,7 +118,7 @@ void FileInspector::readImage(const QByteArray &file)
     trailerHolds = trailerStored == trailerComputed && image.right(4) == "VEST";
 }
 
-void FileInspector::readNameAndSizeBlocks()
+void FileReport::readNameAndSizeBlocks()
 {
     name = latin1Field(image, 16, 32);
     date = latin1Field(image, 48, 20);
@@ -136,7 +136,7 @@ void FileInspector::readNameAndSizeBlocks()
     statedPages = le32(sizeBlock, 24);
 }
 
-void FileInspector::readPages()
+void FileReport::readPages()
 {
     const int count = (image.size() - 136) / record;
     for (int i = 0; i < count; ++i) {
@@ -151,7 +151,7 @@ void FileInspector::readPages()
     }
 }
 
-bool FileInspector::allHold() const
+bool FileReport::allHold() const
 {
     if (!headerRead || !headerChecksumHolds() || !imageRead || !nameBlockHolds || !sizeBlockHolds ||
         !trailerHolds || statedPages != quint32(pages.size()))
@@ -163,7 +163,7 @@ bool FileInspector::allHold() const
     return true;
 }
 
-QByteArray FileInspector::pagePayload() const
+QByteArray FileReport::pagePayload() const
 {
     QByteArray payload;
     for (int i = 0; i < pages.size(); ++i)
@@ -173,7 +173,7 @@ QByteArray FileInspector::pagePayload() const
     return payload;
 }
 
-QJsonObject FileInspector::toJson() const
+QJsonObject FileReport::toJson() const
 {
     QJsonObject header{{QStringLiteral("hw1"), hw1},
                        {QStringLiteral("hw2"), hw2},
