@@ -487,6 +487,7 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
     std::vector<char> accumulator;
     accumulator.reserve(accumulatorCapacity + 16);
     int pending = -1;
+    int recordsRead = 0;
     quint32 running = 0;
     QByteArray result;
     result.reserve(int(qMin<qint64>(size * 4, 136 + maxReadPages * pieceSize)));
@@ -559,6 +560,11 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
             code = stored == running ? 0 : 2;
             break;
         }
+        // No image has more pages than reading accepts; a stream of more is hostile, and
+        // tiny records could otherwise make the result a hundred times the body.
+        if (recordsRead == maxReadPages)
+            break;
+        ++recordsRead;
         running = crc32next(running, chunk, pieceSize);
         const int at = result.size();
         result.append(reinterpret_cast<const char *>(chunk), fixedPage);

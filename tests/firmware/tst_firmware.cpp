@@ -79,19 +79,22 @@ QByteArray expectedRecoded(const QByteArray &payload)
     return expected;
 }
 
-// Writes a compressed body the way a plain LZ4 continuation would, with matches reaching
-// back up to 64 KiB.
-QByteArray unboundedBody(const QByteArray &image)
+// Writes a compressed body of an image the way a plain LZ4 continuation would, with matches
+// reaching back up to 64 KiB, or with the dictionary cut back to the previous piece.
+QByteArray compressedBody(const QByteArray &image, bool limited)
 {
     QByteArray body = image.left(128);
     LZ4_stream_t stream;
     LZ4_initStream(&stream, sizeof stream);
     char block[LZ4_COMPRESSBOUND(record)];
+    char dictionary[record];
     for (int at = 128; at < image.size(); at += record) {
         const int n = qMin(record, image.size() - at);
         const int packed = LZ4_compress_fast_continue(&stream, image.constData() + at, block, n,
                                                       int(sizeof block), 1);
         body.append(char(packed & 0xFF)).append(char(packed >> 8)).append(block, packed);
+        if (limited)
+            LZ4_saveDict(&stream, dictionary, n);
     }
     body.append(2, '\0');
     body.append((16 - body.size() % 16) % 16, '\0');
@@ -125,6 +128,7 @@ private slots:
     void lastPassTakesAnyRecordAsTrailer();
     void hostileBodies_data();
     void hostileBodies();
+    void recodeStopsPastTheReadingLimit();
     void bitFlippedFilesNeverCrash();
     void addEncodedFirmwareChecks_data();
     void addEncodedFirmwareChecks();
@@ -363,7 +367,7 @@ void TestFirmware::unboundedStreamIsRejected()
 {
     // Without the dictionary limit, matches four pages back are beyond the reader's ring.
     const QByteArray payload = makePayload(PayloadKind::FarRepeats, 12 * P);
-    QByteArray body = unboundedBody(imageOf(payload, 1));
+    QByteArray body = compressedBody(imageOf(payload, 1), false);
     QCOMPARE(firmware::recode(body, outerKey), 2);
     QVERIFY(body != expectedRecoded(payload));
 }
@@ -584,6 +588,17 @@ void TestFirmware::hostileBodies()
     QFETCH(QByteArray, body);
     QCOMPARE(firmware::recode(body, outerKey), 2);
     QVERIFY(body.size() <= 136 + 6 * record);
+}
+
+void TestFirmware::recodeStopsPastTheReadingLimit()
+{
+    // 260 erased records compress to a few bytes each; reading stops after 250 of them.
+    QByteArray image = imageOf(QByteArray(), 1).left(128);
+    for (int i = 0; i < 260; ++i)
+        image += QByteArray(P, char(0xFF)) + QByteArray("\0\0\0\0V001", 8);
+    QByteArray body = compressedBody(image + QByteArray(8, '\0'), true);
+    QCOMPARE(firmware::recode(body, outerKey), 2);
+    QCOMPARE(body.size(), 128 + 250 * record);
 }
 
 void TestFirmware::bitFlippedFilesNeverCrash()
