@@ -1,7 +1,5 @@
 // A tiny host: binds a check box to its own one-record table through the installed library.
-#include <telecfg/config/mainconfig.h>
-#include <telecfg/controls/cfgcheckbox.h>
-#include <telecfg/dialogs/gui.h>
+#include <telecfg/telecfg.h>
 
 #include <QApplication>
 #include <cstdio>
@@ -44,7 +42,13 @@ int main(int argc, char **argv)
     box.setReference(&table, 3, nullptr, {});
     box.setChecked(true);
     box.updateControl(1);
-    std::printf("min version %d, writes %d, value %d\n", getConfigMinVersion(table.records[3]),
-                table.writes, table.records[3].value.toInt());
-    return table.writes == 1 && table.records[3].value.toInt() == 1 ? 0 : 1;
+    // The firmware side and the network table through the same installed library.
+    QByteArray check("123456789");
+    QString country, network;
+    networkNames(260u << 10 | 3u, country, network);
+    std::printf("min version %d, writes %d, value %d, crc16 %04x, %s / %s\n",
+                getConfigMinVersion(table.records[3]), table.writes,
+                table.records[3].value.toInt(), unsigned(crc16(check)), qPrintable(country),
+                qPrintable(network));
+    return table.writes == 1 && table.records[3].value.toInt() == 1 && !network.isEmpty() ? 0 : 1;
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+// Everything telecfg offers its hosts, in one include.
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/mainconfig.h"
+#include "telecfg/controls/cfgcheckbox.h"
+#include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/controls/cfglineedit.h"
+#include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/controls/cfgspinbox.h"
+#include "telecfg/dialogs/cmddialog.h"
+#include "telecfg/dialogs/dualinputdlg.h"
+#include "telecfg/dialogs/gui.h"
+#include "telecfg/dialogs/skipreaddatadialog.h"
+#include "telecfg/dialogs/statuslabel.h"
+#include "telecfg/firmware/checksums.h"
+#include "telecfg/firmware/firmware.h"
+#include "telecfg/import/readblockconfigwizard.h"
+#include "telecfg/network/countrytable.h"
