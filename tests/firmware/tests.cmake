@@ -3,8 +3,7 @@ find_package(ZLIB REQUIRED)
 target_link_libraries(tst_checksums PRIVATE ZLIB::ZLIB)
 
 # The command-line tool, run on files it wrote itself.
-# The tool target is defined after the tests directory; generator expressions resolve later.
-if(TELECFG_BUILD_TOOLS)
+if(TARGET telecfg-fw)
     add_test(NAME telecfg_fw_tool
         COMMAND ${CMAKE_COMMAND} -DTOOL=$<TARGET_FILE:telecfg-fw>
             -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/fwtool
