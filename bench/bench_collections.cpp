@@ -1,11 +1,10 @@
 // The collection list as a host uses it: binding and painting a long list, and filling one
 // element after another with the user interface running between the adds.
+#include "bench/qtbenchmark.h"
 #include "telecfg/collections/cfglistwidget.h"
 #include "tests/support/testhost.h"
 
-#include <QApplication>
 #include <QTest>
-#include <benchmark/benchmark.h>
 
 namespace {
 constexpr int places = 1000;
@@ -94,13 +93,4 @@ void BM_ListThousandAddsEventsOnce(benchmark::State &state)
 BENCHMARK(BM_ListThousandAddsEventsOnce)->Unit(benchmark::kMillisecond);
 } // namespace
 
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM",
-            qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+TELECFG_QT_BENCHMARK_MAIN()

@@ -1,5 +1,6 @@
 // Refreshing a form of 1000 bound controls, beside the toolkit's own widget mapper
 // reverting 1000 line edits from a model: what a host pays to bring a form up to date.
+#include "bench/qtbenchmark.h"
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/controls/cfgdoublespinbox.h"
@@ -8,11 +9,9 @@
 #include "telecfg/controls/cfgspinbox.h"
 #include "tests/support/testhost.h"
 
-#include <QApplication>
 #include <QDataWidgetMapper>
 #include <QLineEdit>
 #include <QStandardItemModel>
-#include <benchmark/benchmark.h>
 #include <tuple>
 
 namespace {
@@ -138,13 +137,4 @@ void BM_MapperRevert(benchmark::State &state)
 BENCHMARK(BM_MapperRevert)->Unit(benchmark::kMicrosecond);
 } // namespace
 
-int main(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM",
-            qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+TELECFG_QT_BENCHMARK_MAIN()
