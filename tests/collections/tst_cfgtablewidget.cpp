@@ -325,11 +325,9 @@ void TestCfgTableWidget::cellWidgetChange()
     b.host.writes.clear();
     spin.setProperty("row", -1);
     spin.setValue(43);
-    spin.setProperty("row", 7);
-    spin.setValue(44);
     spin.setProperty("row", QVariant());
-    spin.setValue(45);
-    b.table.changed(46);
+    spin.setValue(44);
+    b.table.changed(45);
     QVERIFY(b.host.writes.isEmpty());
 }
 
