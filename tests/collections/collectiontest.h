@@ -22,15 +22,6 @@ template <class Item> QString colourOf(const Item *item)
     return b.style() == Qt::SolidPattern ? b.color().name() : QStringLiteral("pattern");
 }
 
-// The vector the host was last handed for `ref`.
-template <class Vector> Vector lastWrite(const TestHost &host, int ref)
-{
-    for (int i = host.writes.size() - 1; i >= 0; --i)
-        if (host.writes.at(i).ref == ref)
-            return qvariant_cast<Vector>(host.writes.at(i).value);
-    return Vector();
-}
-
 // Double-clicks the cell at `rect` (which opens its editor), types `text`, presses Return
 // and waits until the editor has closed.
 inline bool editInPlace(QAbstractItemView &view, const QRect &rect, const QString &text)

@@ -7,12 +7,13 @@
 #include <QtTest>
 
 using namespace collectiontest;
+using Grid = QStringList;
 
 namespace {
 const int ref = 60;
 
-// Columns given as rows of text, one string per place: "a|b" is a column of two places.
-ColumnVectors columnsOf(const QStringList &columns)
+// Columns written as text, one string per column, places joined by '|'.
+QVariant table(const QStringList &columns)
 {
     ColumnVectors value;
     for (const QString &column : columns) {
@@ -21,11 +22,15 @@ ColumnVectors columnsOf(const QStringList &columns)
             places << place.toLatin1();
         value << places;
     }
-    return value;
+    return QVariant::fromValue(value);
 }
 
-QStringList columnsText(const ColumnVectors &value)
+// The columns last handed to the host, written as for table().
+QStringList written(const TestHost &host)
 {
+    ColumnVectors value;
+    for (const TestHost::Write &write : host.writes)
+        value = qvariant_cast<ColumnVectors>(write.value);
     QStringList columns;
     for (const QVector<QByteArray> &column : value) {
         QStringList places;
@@ -37,9 +42,9 @@ QStringList columnsText(const ColumnVectors &value)
 }
 
 // The grid as the user sees it: one string per row, cells joined by '|', "-" for no cell.
-QStringList gridOf(const QTableWidget &table)
+Grid gridOf(const QTableWidget &table)
 {
-    QStringList rows;
+    Grid rows;
     for (int row = 0; row < table.rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < table.columnCount(); ++column) {
@@ -51,22 +56,24 @@ QStringList gridOf(const QTableWidget &table)
     return rows;
 }
 
-// A table parameter of `shown` columns, `filled` of them filled from the value.
-MainConfigObject &addTable(TestHost &host, const QVariant &value, int capacity, int shown = 2,
-                           int filled = 2)
+// A table bound to parameter `ref`: `shown` columns, `filled` of them filled from the value.
+struct Bound
 {
-    MainConfigObject &object = host.add(ref, 0, value);
-    object.columnListA = QVariant::fromValue(QVector<uint>(filled).toList());
-    object.columnListB = QVariant::fromValue(QVector<uint>(shown).toList());
-    object.capacity = capacity;
-    object.columnTitles = QStringList{"Poziom", "Objętość"};
-    return object;
-}
-
-QVariant table(const QStringList &columns)
-{
-    return QVariant::fromValue(columnsOf(columns));
-}
+    TestHost host;
+    CfgTableWidget table;
+    Bound(const QVariant &value, int capacity, const QVariantList &stored = {}, int shown = 2,
+          int filled = 2)
+    {
+        MainConfigObject &object = host.add(ref, 0, value);
+        object.columnListA = QVariant::fromValue(QVector<uint>(filled).toList());
+        object.columnListB = QVariant::fromValue(QVector<uint>(shown).toList());
+        object.capacity = capacity;
+        object.columnTitles = QStringList{"Poziom", "Objętość"};
+        host.storedItemsOf[ref] = stored;
+        table.setSelectionMode(QAbstractItemView::MultiSelection);
+        table.setReference(&host, ref, nullptr, {});
+    }
+};
 } // namespace
 
 class TestCfgTableWidget : public QObject
@@ -90,54 +97,57 @@ void TestCfgTableWidget::binding_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<int>("filled");
-    QTest::addColumn<int>("columns");
+    QTest::addColumn<int>("shown");
     QTest::addColumn<int>("capacity");
-    QTest::addColumn<QStringList>("titles");
-    QTest::addColumn<QStringList>("grid");
+    QTest::addColumn<QString>("titles");
+    QTest::addColumn<Grid>("grid");
 
-    const QStringList two{"Poziom", "Objętość"};
+    const QString two = QStringLiteral("Poziom|Objętość");
     QTest::newRow("two rows") << table({"1|2|", "10|20|"}) << 2 << 2 << 3 << two
-                              << QStringList{"1|10", "2|20"};
-    QTest::newRow("generated titles")
-        << table({"1", "10", "x", "y"}) << 4 << 4 << 1
-        << QStringList{"Poziom", "Objętość", "Kolumna 3", "Kolumna 4"} << QStringList{"1|10|x|y"};
-    QTest::newRow("no filled columns") << table({"1", "10"}) << 0 << 2 << 1 << two << QStringList{};
-    // A free place before a used one leaves the used row past the row count.
-    QTest::newRow("free place first")
-        << table({"|2", "|20"}) << 2 << 2 << 2 << two << QStringList{"-|"};
-    QTest::newRow("column shorter than capacity")
-        << table({"1|2", "10"}) << 2 << 2 << 2 << two << QStringList{"1|10", "2|-"};
-    QTest::newRow("fewer columns than filled")
-        << table({"1|2"}) << 3 << 2 << 2 << two << QStringList{"1|-", "2|-"};
+                              << Grid{"1|10", "2|20"};
+    QTest::newRow("generated titles") << table({"1", "10", "x", "y"}) << 4 << 4 << 1
+                                      << "Poziom|Objętość|Kolumna 3|Kolumna 4" << Grid{"1|10|x|y"};
+    QTest::newRow("no filled columns") << table({"1", "10"}) << 0 << 2 << 1 << two << Grid{};
+    // Deliberate: a free place before a used one leaves the used row past the row count.
+    QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << 2 << 2 << two << Grid{"-|"};
     QTest::newRow("more filled than shown")
-        << table({"1", "10", "x"}) << 3 << 2 << 1 << two << QStringList{"1|10"};
+        << table({"1", "10", "x"}) << 3 << 2 << 1 << two << Grid{"1|10"};
+    // Wrong shapes show what fits, and nothing done on them afterwards crashes.
+    QTest::newRow("short column") << table({"1|2", "10"}) << 2 << 2 << 2 << two
+                                  << Grid{"1|10", "2|-"};
+    QTest::newRow("fewer columns than filled")
+        << table({"1|2"}) << 3 << 2 << 2 << two << Grid{"1|-", "2|-"};
     QTest::newRow("wrong container")
-        << QVariant::fromValue(QVector<quint32>{1}) << 2 << 2 << 1 << two << QStringList{};
+        << QVariant::fromValue(QVector<quint32>{1}) << 2 << 2 << 1 << two << Grid{};
     QTest::newRow("negative capacity")
-        << table({"1|2", "10|20"}) << 2 << 2 << -1 << two << QStringList{"1|10", "2|20"};
+        << table({"1|2", "10|20"}) << 2 << 2 << -1 << two << Grid{"1|10", "2|20"};
+    QTest::newRow("capacity 0") << table({"1", "10"}) << 2 << 2 << 0 << two << Grid{};
 }
 
 void TestCfgTableWidget::binding()
 {
     QFETCH(QVariant, value);
     QFETCH(int, filled);
-    QFETCH(int, columns);
+    QFETCH(int, shown);
     QFETCH(int, capacity);
-    QFETCH(QStringList, titles);
-    QFETCH(QStringList, grid);
+    QFETCH(QString, titles);
+    QFETCH(Grid, grid);
 
-    TestHost host;
-    addTable(host, value, capacity, columns, filled);
-    CfgTableWidget tableWidget;
-    tableWidget.setRowCount(5);
-    tableWidget.setReference(&host, ref, nullptr, {});
-    QCOMPARE(tableWidget.columnCount(), titles.size());
-    for (int column = 0; column < titles.size(); ++column)
-        QCOMPARE(tableWidget.horizontalHeaderItem(column)->text(), titles.at(column));
-    QCOMPARE(gridOf(tableWidget), grid);
-    QCOMPARE(host.records[ref].control, &tableWidget);
-    if (!grid.isEmpty() && tableWidget.item(0, 0))
-        QCOMPARE(tableWidget.item(0, 0)->data(Qt::UserRole).toUInt(), liveFlag);
+    Bound b(value, capacity, {QByteArray("1")}, shown, filled);
+    b.table.setRowCount(5);
+    b.table.setReference(&b.host, ref, nullptr, {}); // the old rows go
+    QStringList headers;
+    for (int column = 0; column < b.table.columnCount(); ++column)
+        headers << b.table.horizontalHeaderItem(column)->text();
+    QCOMPARE(headers.join('|'), titles);
+    QCOMPARE(gridOf(b.table), grid);
+
+    ModalCatcher catcher;
+    b.table.selectAll();
+    QCOMPARE(b.table.remove(ref), capacity != 0); // true while there are any places
+    b.table.addValue(QVariant(QStringList{"1", "11", "111"}), ref);
+    b.table.addValue(QVariant(QStringList{"9"}), ref);
+    b.table.updateControl(0);
 }
 
 void TestCfgTableWidget::addRow_data()
@@ -145,38 +155,34 @@ void TestCfgTableWidget::addRow_data()
     QTest::addColumn<QStringList>("value");
     QTest::addColumn<int>("capacity");
     QTest::addColumn<QVariant>("input");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QStringList>("grid");
-    QTest::addColumn<QStringList>("after");
-    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("result"); // 1: refused with a message
+    QTest::addColumn<Grid>("grid");
+    QTest::addColumn<QStringList>("after"); // empty: nothing written
 
-    QTest::newRow("first free place")
-        << QStringList{"1|2|", "10|20|"} << 3 << QVariant(QStringList{"3", "30"}) << 0
-        << QStringList{"1|10", "2|20", "3|30"} << QStringList{"1|2|3", "10|20|30"} << "";
+    const QVariant row3 = QStringList{"3", "30"};
+    const QStringList one{"1|", "10|"};
+    const QStringList two{"1|2|", "10|20|"};
+    QTest::newRow("first free place") << two << 3 << row3 << 0 << Grid{"1|10", "2|20", "3|30"}
+                                      << QStringList{"1|2|3", "10|20|30"};
     // Deliberate: while place 1 is empty every add takes place 0.
-    QTest::newRow("place 1 empty replaces place 0")
-        << QStringList{"1||", "10||"} << 3 << QVariant(QStringList{"3", "30"}) << 0
-        << QStringList{"3|30", "-|-"} << QStringList{"3||", "30||"} << "";
-    QTest::newRow("full") << QStringList{"1|2", "10|20"} << 2 << QVariant(QStringList{"3", "30"})
-                          << 0 << QStringList{"1|10", "2|20"} << QStringList{"1|2", "10|20"} << "";
-    QTest::newRow("duplicate in a later column")
-        << QStringList{"1|2|", "10|20|"} << 3 << QVariant(QStringList{"20", "5"}) << 1
-        << QStringList{"1|10", "2|20"} << QStringList{} << "Nowy element";
+    QTest::newRow("place 1 empty") << QStringList{"1||", "10||"} << 3 << row3 << 0
+                                   << Grid{"3|30", "-|-"} << QStringList{"3||", "30||"};
+    QTest::newRow("full") << QStringList{"1|2", "10|20"} << 2 << row3 << 0 << Grid{"1|10", "2|20"}
+                          << QStringList{"1|2", "10|20"};
+    QTest::newRow("duplicate in a later column") << two << 3 << QVariant(QStringList{"20", "5"})
+                                                 << 1 << Grid{"1|10", "2|20"} << QStringList{};
     QTest::newRow("more strings than columns")
-        << QStringList{"1|2|", "10|20|"} << 3 << QVariant(QStringList{"3", "30", "300"}) << 0
-        << QStringList{"1|10", "2|20", "3|30"} << QStringList{"1|2|3", "10|20|30"} << "";
-    QTest::newRow("capacity 1, no place 1")
-        << QStringList{"", ""} << 1 << QVariant(QStringList{"3", "30"}) << 0 << QStringList{"3|30"}
-        << QStringList{"3", "30"} << "";
+        << two << 3 << QVariant(QStringList{"3", "30", "300"}) << 0 << Grid{"1|10", "2|20", "3|30"}
+        << QStringList{"1|2|3", "10|20|30"};
+    QTest::newRow("capacity 1") << QStringList{"", ""} << 1 << row3 << 0 << Grid{"3|30"}
+                                << QStringList{"3", "30"};
     QTest::newRow("capacity above the column")
-        << QStringList{"1", "10"} << 5 << QVariant(QStringList{"3", "30"}) << 0
-        << QStringList{"1|10"} << QStringList{"1", "10"} << "";
-    QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << QVariant(QStringList{"3", "30"}) << 0
-                                << QStringList{} << QStringList{"", ""} << "";
-    QTest::newRow("empty list") << QStringList{"1|", "10|"} << 2 << QVariant(QStringList{}) << 0
-                                << QStringList{"1|10"} << QStringList{} << "";
-    QTest::newRow("invalid") << QStringList{"1|", "10|"} << 2 << QVariant() << 0
-                             << QStringList{"1|10"} << QStringList{} << "";
+        << QStringList{"1", "10"} << 5 << row3 << 0 << Grid{"1|10"} << QStringList{"1", "10"};
+    QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << row3 << 0 << Grid{}
+                                << QStringList{"", ""};
+    QTest::newRow("empty list") << one << 2 << QVariant(QStringList{}) << 0 << Grid{"1|10"}
+                                << QStringList{};
+    QTest::newRow("invalid") << one << 2 << QVariant() << 0 << Grid{"1|10"} << QStringList{};
 }
 
 void TestCfgTableWidget::addRow()
@@ -185,24 +191,17 @@ void TestCfgTableWidget::addRow()
     QFETCH(int, capacity);
     QFETCH(QVariant, input);
     QFETCH(int, result);
-    QFETCH(QStringList, grid);
+    QFETCH(Grid, grid);
     QFETCH(QStringList, after);
-    QFETCH(QString, message);
 
-    TestHost host;
-    addTable(host, table(value), capacity);
-    CfgTableWidget tableWidget;
-    tableWidget.setReference(&host, ref, nullptr, {});
+    Bound b(table(value), capacity);
     ModalCatcher catcher;
-    QCOMPARE(tableWidget.addValue(input, ref), result);
-    QCOMPARE(gridOf(tableWidget), grid);
-    if (after.isEmpty())
-        QVERIFY(host.writes.isEmpty());
-    else
-        QCOMPARE(columnsText(lastWrite<ColumnVectors>(host, ref)), after);
-    QCOMPARE(catcher.seen.isEmpty(), message.isEmpty());
-    if (!message.isEmpty()) {
-        QCOMPARE(catcher.seen.at(0).title, message);
+    QCOMPARE(b.table.addValue(input, ref), result);
+    QCOMPARE(gridOf(b.table), grid);
+    QCOMPARE(written(b.host), after);
+    QCOMPARE(catcher.seen.size(), result);
+    if (result) {
+        QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Nowy element"));
         QCOMPARE(catcher.seen.at(0).text, QStringLiteral("Identyfikator jest już używany"));
     }
 }
@@ -212,18 +211,19 @@ void TestCfgTableWidget::editCheck_data()
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("column");
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QStringList>("grid");
-    QTest::addColumn<QStringList>("after"); // empty: nothing written
+    QTest::addColumn<Grid>("grid");
+    QTest::addColumn<QStringList>("after"); // empty: refused, nothing written
     QTest::addColumn<QString>("message");
 
-    QTest::newRow("new text") << 1 << 1 << "25" << QStringList{"1|10", "2|25"}
+    const Grid same{"1|10", "2|20"};
+    QTest::newRow("new text") << 1 << 1 << "25" << Grid{"1|10", "2|25"}
                               << QStringList{"1|2", "10|25"} << "";
     QTest::newRow("unchanged text stores again")
-        << 0 << 0 << "1" << QStringList{"1|10", "2|20"} << QStringList{"1|2", "10|20"} << "";
-    QTest::newRow("text of another column") << 0 << 1 << "2" << QStringList{"1|10", "2|20"}
-                                            << QStringList{} << "Identyfikator jest już używany";
-    QTest::newRow("emptied later column") << 1 << 1 << "" << QStringList{"1|10", "2|20"}
-                                          << QStringList{} << "Identyfikator nie może być pusty";
+        << 0 << 0 << "1" << same << QStringList{"1|2", "10|20"} << "";
+    QTest::newRow("text of another column")
+        << 0 << 1 << "2" << same << QStringList{} << "Identyfikator jest już używany";
+    QTest::newRow("emptied later column")
+        << 1 << 1 << "" << same << QStringList{} << "Identyfikator nie może być pusty";
 }
 
 void TestCfgTableWidget::editCheck()
@@ -231,24 +231,18 @@ void TestCfgTableWidget::editCheck()
     QFETCH(int, row);
     QFETCH(int, column);
     QFETCH(QString, typed);
-    QFETCH(QStringList, grid);
+    QFETCH(Grid, grid);
     QFETCH(QStringList, after);
     QFETCH(QString, message);
 
-    TestHost host;
-    addTable(host, table({"1|2", "10|20"}), 2);
-    CfgTableWidget tableWidget;
-    tableWidget.setReference(&host, ref, nullptr, {});
-    tableWidget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&tableWidget));
+    Bound b(table({"1|2", "10|20"}), 2);
+    b.table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&b.table));
     ModalCatcher catcher;
-    const QRect rect = tableWidget.visualItemRect(tableWidget.item(row, column));
-    QVERIFY(collectiontest::editInPlace(tableWidget, rect, typed));
-    QCOMPARE(gridOf(tableWidget), grid);
-    if (after.isEmpty())
-        QVERIFY(host.writes.isEmpty());
-    else
-        QCOMPARE(columnsText(lastWrite<ColumnVectors>(host, ref)), after);
+    const QRect rect = b.table.visualItemRect(b.table.item(row, column));
+    QVERIFY(collectiontest::editInPlace(b.table, rect, typed));
+    QCOMPARE(gridOf(b.table), grid);
+    QCOMPARE(written(b.host), after);
     QCOMPARE(catcher.seen.size(), message.isEmpty() ? 0 : 1);
     if (!message.isEmpty()) {
         QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Edycja elementu"));
@@ -259,119 +253,98 @@ void TestCfgTableWidget::editCheck()
 void TestCfgTableWidget::remove_data()
 {
     QTest::addColumn<QStringList>("value");
-    QTest::addColumn<int>("capacity");
     QTest::addColumn<QVariantList>("stored");
     QTest::addColumn<QList<QPoint>>("selected"); // (column, row)
-    QTest::addColumn<bool>("result");
-    QTest::addColumn<QStringList>("grid");
+    QTest::addColumn<Grid>("grid");
     QTest::addColumn<QStringList>("after");
     QTest::addColumn<int>("writes");
 
+    const QStringList two{"1|2", "10|20"};
     const QVariantList none;
-    QTest::newRow("stored row greys")
-        << QStringList{"1|2", "10|20"} << 2 << QVariantList{QByteArray("1")}
-        << QList<QPoint>{{1, 0}} << true << QStringList{"1|10", "2|20"} << QStringList{"|2", "|20"}
-        << 2;
+    const QStringList gone{"|2", "|20"};
+    QTest::newRow("stored row greys") << two << QVariantList{QByteArray("1")}
+                                      << QList<QPoint>{{1, 0}} << Grid{"1|10", "2|20"} << gone << 2;
     QTest::newRow("unstored row goes")
-        << QStringList{"1|2", "10|20"} << 2 << none << QList<QPoint>{{0, 0}} << true
-        << QStringList{"2|20"} << QStringList{"|2", "|20"} << 1;
+        << two << none << QList<QPoint>{{0, 0}} << Grid{"2|20"} << gone << 1;
     // Several cells of one row: the row goes once, its other cells are skipped.
     QTest::newRow("whole row selected")
-        << QStringList{"1|2", "10|20"} << 2 << none << QList<QPoint>{{0, 0}, {1, 0}} << true
-        << QStringList{"2|20"} << QStringList{"|2", "|20"} << 1;
+        << two << none << QList<QPoint>{{0, 0}, {1, 0}} << Grid{"2|20"} << gone << 1;
     // Deliberate: a place at or above the column count goes without asking the host.
     QTest::newRow("place beyond column count")
-        << QStringList{"1|2|3", "10|20|30"} << 3 << QVariantList{QByteArray("3")}
-        << QList<QPoint>{{0, 2}} << true << QStringList{"1|10", "2|20"}
-        << QStringList{"1|2|", "10|20|"} << 1;
-    QTest::newRow("nothing selected") << QStringList{"1", "10"} << 1 << none << QList<QPoint>{}
-                                      << true << QStringList{"1|10"} << QStringList{} << 0;
-    QTest::newRow("capacity 0") << QStringList{"1", "10"} << 0 << none << QList<QPoint>{} << false
-                                << QStringList{} << QStringList{} << 0;
+        << QStringList{"1|2|3", "10|20|30"} << QVariantList{QByteArray("3")}
+        << QList<QPoint>{{0, 2}} << Grid{"1|10", "2|20"} << QStringList{"1|2|", "10|20|"} << 1;
+    QTest::newRow("nothing selected")
+        << two << none << QList<QPoint>{} << Grid{"1|10", "2|20"} << QStringList{} << 0;
 }
 
 void TestCfgTableWidget::remove()
 {
     QFETCH(QStringList, value);
-    QFETCH(int, capacity);
     QFETCH(QVariantList, stored);
     QFETCH(QList<QPoint>, selected);
-    QFETCH(bool, result);
-    QFETCH(QStringList, grid);
+    QFETCH(Grid, grid);
     QFETCH(QStringList, after);
     QFETCH(int, writes);
 
-    TestHost host;
-    addTable(host, table(value), capacity);
-    host.storedItemsOf[ref] = stored;
-    CfgTableWidget tableWidget;
-    tableWidget.setSelectionMode(QAbstractItemView::MultiSelection);
-    tableWidget.setReference(&host, ref, nullptr, {});
+    Bound b(table(value), value.at(0).count('|') + 1, stored);
     for (const QPoint &cell : selected)
-        tableWidget.item(cell.y(), cell.x())->setSelected(true);
-    QCOMPARE(tableWidget.remove(ref), result);
-    QCOMPARE(gridOf(tableWidget), grid);
-    QCOMPARE(host.writes.size(), writes);
-    if (!after.isEmpty())
-        QCOMPARE(columnsText(lastWrite<ColumnVectors>(host, ref)), after);
-    if (!stored.isEmpty() && writes == 2) {
-        QCOMPARE(colourOf(tableWidget.item(0, 1)), QStringLiteral("#a0a0a4"));
-        QCOMPARE(tableWidget.item(0, 0)->toolTip(), QStringLiteral("Usunięty element"));
-        QCOMPARE(tableWidget.item(0, 1)->toolTip(), QString());
-        // A grey row is not removed again; adding its identifier brings it back.
-        host.writes.clear();
-        QVERIFY(tableWidget.remove(ref));
-        QVERIFY(host.writes.isEmpty());
-        QCOMPARE(tableWidget.addValue(QVariant(QStringList{"1", "11"}), ref), 0);
-        QCOMPARE(gridOf(tableWidget), (QStringList{"1|11", "2|20"}));
-        QCOMPARE(columnsText(lastWrite<ColumnVectors>(host, ref)), (QStringList{"1|2", "11|20"}));
-        QCOMPARE(colourOf(tableWidget.item(0, 1)), QStringLiteral("#ffffff"));
-    }
+        b.table.item(cell.y(), cell.x())->setSelected(true);
+    QVERIFY(b.table.remove(ref));
+    QCOMPARE(gridOf(b.table), grid);
+    QCOMPARE(b.host.writes.size(), writes);
+    QCOMPARE(written(b.host), after);
+    if (writes != 2)
+        return;
+    QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#a0a0a4"));
+    QCOMPARE(b.table.item(0, 0)->toolTip(), QStringLiteral("Usunięty element"));
+    QCOMPARE(b.table.item(0, 1)->toolTip(), QString());
+    // A grey row is not removed again; adding its identifier brings it back.
+    b.host.writes.clear();
+    QVERIFY(b.table.remove(ref));
+    QVERIFY(b.host.writes.isEmpty());
+    QCOMPARE(b.table.addValue(QVariant(QStringList{"1", "11"}), ref), 0);
+    QCOMPARE(gridOf(b.table), (Grid{"1|11", "2|20"}));
+    QCOMPARE(written(b.host), (QStringList{"1|2", "11|20"}));
+    QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#ffffff"));
 }
 
 void TestCfgTableWidget::cellWidgetChange()
 {
-    TestHost host;
-    addTable(host, table({"1|2", "10|20"}), 2);
-    CfgTableWidget tableWidget;
-    tableWidget.setReference(&host, ref, nullptr, {});
+    Bound b(table({"1|2", "10|20"}), 2);
     QSpinBox spin;
     spin.setProperty("row", 1);
     spin.setProperty("col", 1);
-    QObject::connect(&spin, SIGNAL(valueChanged(int)), &tableWidget, SLOT(changed(int)));
+    QObject::connect(&spin, SIGNAL(valueChanged(int)), &b.table, SLOT(changed(int)));
     spin.setValue(42);
-    QCOMPARE(columnsText(lastWrite<ColumnVectors>(host, ref)), (QStringList{"1|2", "10|42"}));
-    QCOMPARE(tableWidget.item(1, 1)->data(Qt::UserRole).toInt(), 42);
-    tableWidget.updateControl(0);
-    QCOMPARE(colourOf(tableWidget.item(1, 1)), QStringLiteral("#a0a0a4"));
+    QCOMPARE(written(b.host), (QStringList{"1|2", "10|42"}));
+    QCOMPARE(b.table.item(1, 1)->data(Qt::UserRole).toInt(), 42);
+    b.table.updateControl(0);
+    QCOMPARE(colourOf(b.table.item(1, 1)), QStringLiteral("#a0a0a4"));
 
     // A sender outside the table, or without the properties, changes nothing.
-    host.writes.clear();
-    spin.setProperty("row", 7);
+    b.host.writes.clear();
+    spin.setProperty("row", -1);
     spin.setValue(43);
     spin.setProperty("row", QVariant());
     spin.setValue(44);
-    tableWidget.changed(45);
-    QVERIFY(host.writes.isEmpty());
+    b.table.changed(45);
+    QVERIFY(b.host.writes.isEmpty());
 }
 
 void TestCfgTableWidget::paintingStopsAtMissingCell()
 {
-    TestHost host;
-    addTable(host, table({"1|2|3", "10|20|30"}), 3);
-    host.invalidItemsOf[ref] = {0};
-    host.modifiedItemsOf[ref] = {0, 2};
-    CfgTableWidget tableWidget;
-    tableWidget.setReference(&host, ref, nullptr, {});
-    delete tableWidget.takeItem(1, 1);
-    tableWidget.updateControl(0);
-    QCOMPARE(colourOf(tableWidget.item(0, 0)), QStringLiteral("#ff0000"));
-    QCOMPARE(tableWidget.item(0, 1)->toolTip(), QStringLiteral("Nieprawidłowy element"));
-    QCOMPARE(colourOf(tableWidget.item(1, 0)), QStringLiteral("#ffffff"));
-    QCOMPARE(colourOf(tableWidget.item(2, 0)), QString());
-    tableWidget.setItem(1, 1, new QTableWidgetItem("x"));
-    tableWidget.updateControl(0);
-    QCOMPARE(colourOf(tableWidget.item(2, 1)), QStringLiteral("#ffff00"));
+    Bound b(table({"1|2|3", "10|20|30"}), 3);
+    b.host.invalidItemsOf[ref] = {0};
+    b.host.modifiedItemsOf[ref] = {0, 2};
+    delete b.table.takeItem(1, 1);
+    b.table.updateControl(0);
+    QCOMPARE(colourOf(b.table.item(0, 0)), QStringLiteral("#ff0000"));
+    QCOMPARE(b.table.item(0, 1)->toolTip(), QStringLiteral("Nieprawidłowy element"));
+    QCOMPARE(colourOf(b.table.item(1, 0)), QStringLiteral("#ffffff"));
+    QCOMPARE(colourOf(b.table.item(2, 0)), QString());
+    b.table.setItem(1, 1, new QTableWidgetItem("x"));
+    b.table.updateControl(0);
+    QCOMPARE(colourOf(b.table.item(2, 1)), QStringLiteral("#ffff00"));
 }
 
 QTEST_MAIN(TestCfgTableWidget)
