@@ -34,9 +34,7 @@ quint32 crcOf(const QByteArray &a, int from, int length)
 
 void refreshOuterChecksum(QByteArray &file)
 {
-    setLe32(file, 4,
-            docrc32(reinterpret_cast<const unsigned char *>(file.constData()) + 128,
-                    file.size() - 128));
+    setLe32(file, 4, crcOf(file, 128, file.size() - 128));
 }
 
 firmware writer(unsigned compress)
@@ -46,14 +44,13 @@ firmware writer(unsigned compress)
     fw.SetMark(1, 2, true, 0xA5);
     fw.setHW(0x1234, 0x0042);
     fw.setNameDate(QStringLiteral("tracker.bin"), QStringLiteral("2026-11-22"));
-    fw.setUserName(QStringLiteral("serwis"));
+    fw.setUserName(QStringLiteral("0123456789abcdefgh")); // kept to its first 15 characters
     return fw;
 }
 
 QByteArray imageOf(const QByteArray &payload, unsigned compress)
 {
-    firmware fw = writer(compress);
-    return fw.encode(payload, false);
+    return writer(compress).encode(payload, false);
 }
 
 QByteArray fileOf(const QByteArray &payload, unsigned compress)
@@ -69,8 +66,16 @@ QByteArray deciphered(QByteArray data, const unsigned char *key, int from = 0)
     return data;
 }
 
-// The enciphered image that recode must give for a compressed file of this payload: the
-// image written with page encipherment, its trailer carrying the plain image's checksum.
+// Pads a compressed body to whole blocks and enciphers it past the plain name block.
+QByteArray sealed(QByteArray body)
+{
+    body.append((16 - body.size() % 16) % 16, '\0');
+    BlockCipher::applyOnce(outerKey, BlockCipher::Encipher, body, 96);
+    return body;
+}
+
+// What recode must give for a compressed file of this payload: the image written with page
+// encipherment, its trailer carrying the plain image's checksum.
 QByteArray expectedRecoded(const QByteArray &payload)
 {
     QByteArray expected = imageOf(payload, 0);
@@ -79,8 +84,8 @@ QByteArray expectedRecoded(const QByteArray &payload)
     return expected;
 }
 
-// Writes a compressed body of an image the way a plain LZ4 continuation would, with matches
-// reaching back up to 64 KiB, or with the dictionary cut back to the previous piece.
+// A compressed body written as a stock LZ4 continuation would: matches reaching back up to
+// 64 KiB, or with the dictionary cut back to the previous piece.
 QByteArray compressedBody(const QByteArray &image, bool limited)
 {
     QByteArray body = image.left(128);
@@ -96,10 +101,7 @@ QByteArray compressedBody(const QByteArray &image, bool limited)
         if (limited)
             LZ4_saveDict(&stream, dictionary, n);
     }
-    body.append(2, '\0');
-    body.append((16 - body.size() % 16) % 16, '\0');
-    BlockCipher::applyOnce(outerKey, BlockCipher::Encipher, body, 96);
-    return body;
+    return sealed(body.append(2, '\0'));
 }
 } // namespace
 
@@ -110,11 +112,10 @@ class TestFirmware : public QObject
 private slots:
     void imageLayout_data();
     void imageLayout();
-    void nameAndUserCuts_data();
-    void nameAndUserCuts();
+    void nameCuts_data();
+    void nameCuts();
     void longDateMovesTheFields();
     void pageLimits();
-    void pageSizeIsProcessWide();
     void uncompressedFilePadding_data();
     void uncompressedFilePadding();
     void compressedFileLayout();
@@ -142,12 +143,11 @@ void TestFirmware::imageLayout_data()
     QTest::addColumn<unsigned>("compress");
     QTest::addColumn<bool>("plain");
 
-    QTest::newRow("empty, enciphered") << 0 << 0u << false;
-    QTest::newRow("one byte, enciphered") << 1 << 0u << false;
-    QTest::newRow("whole page, plain") << P << 0u << true;
-    QTest::newRow("page and a byte, compress") << P + 1 << 1u << false;
-    QTest::newRow("twelve pages, enciphered") << 12 * P << 0u << false;
-    QTest::newRow("240 pages, compress") << 240 * P << 1u << false;
+    QTest::newRow("empty") << 0 << 0u << false;
+    QTest::newRow("one byte") << 1 << 0u << false;
+    QTest::newRow("page, plain") << P << 0u << true;
+    QTest::newRow("page and a byte") << P + 1 << 1u << false;
+    QTest::newRow("240 pages") << 240 * P << 1u << false;
 }
 
 void TestFirmware::imageLayout()
@@ -156,22 +156,22 @@ void TestFirmware::imageLayout()
     QFETCH(unsigned, compress);
     QFETCH(bool, plain);
     const QByteArray payload = makePayload(PayloadKind::Random, size, 5);
-    firmware fw = writer(compress);
-    const QByteArray image = fw.encode(payload, plain);
+    const QByteArray image = writer(compress).encode(payload, plain);
     const int pages = (size + P - 1) / P;
     const bool enciphered = !plain && compress == 0;
+    const QByteArray user("0123456789abcde");
 
     QCOMPARE(image.size(), 136 + pages * record);
     QCOMPARE(image.left(16), QByteArray("Vestramarks\0\0\0\0\0", 16));
     QCOMPARE(image.mid(16, 32), QByteArray("tracker").leftJustified(32, '\0'));
     QCOMPARE(image.mid(48, 20), QByteArray("2026-11-22").leftJustified(20, '\0'));
-    QCOMPARE(image.mid(68, 24), QByteArray("serwis").leftJustified(24, '\0'));
+    QCOMPARE(image.mid(68, 24), user.leftJustified(24, '\0'));
     QCOMPARE(le32(image, 92), crcOf(image, 0, 92));
 
     const QByteArray sizeBlock =
         enciphered ? deciphered(image.mid(96, 32), pageKey) : image.mid(96, 32);
     QCOMPARE(le32(sizeBlock, 0), quint32(image.size()));
-    QCOMPARE(sizeBlock.mid(8, 16), QByteArray("serwis").leftJustified(16, '\0'));
+    QCOMPARE(sizeBlock.mid(8, 16), user + '\0');
     QCOMPARE(le32(sizeBlock, 24), quint32(pages));
     QCOMPARE(le32(sizeBlock, 28), crcOf(sizeBlock, 0, 28));
 
@@ -188,48 +188,31 @@ void TestFirmware::imageLayout()
     QCOMPARE(image.right(4), QByteArray("VEST"));
 }
 
-void TestFirmware::nameAndUserCuts_data()
+void TestFirmware::nameCuts_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<QString>("storedName");
-    QTest::addColumn<QString>("storedUser");
+    QTest::addColumn<QString>("stored");
 
-    const QString longName = QString(40, QLatin1Char('n'));
     QTest::newRow("last .bin cut") << "a.bin.old"
-                                   << "u"
-                                   << "a"
-                                   << "u";
+                                   << "a";
     QTest::newRow("cut at the last") << "x.bin.y.bin"
-                                     << "u"
-                                     << "x.bin.y"
-                                     << "u";
-    QTest::newRow(".bin at the start stays") << ".bin"
-                                             << "u"
-                                             << ".bin"
-                                             << "u";
+                                     << "x.bin.y";
+    QTest::newRow(".bin at the start") << ".bin"
+                                       << ".bin";
     QTest::newRow("case-sensitive") << "a.BIN"
-                                    << "u"
-                                    << "a.BIN"
-                                    << "u";
-    QTest::newRow("long name, long user")
-        << longName << "0123456789abcdefgh" << longName.left(31) << "0123456789abcde";
+                                    << "a.BIN";
+    QTest::newRow("long") << QString(40, QLatin1Char('n')) << QString(31, QLatin1Char('n'));
 }
 
-void TestFirmware::nameAndUserCuts()
+void TestFirmware::nameCuts()
 {
     QFETCH(QString, name);
-    QFETCH(QString, user);
-    QFETCH(QString, storedName);
-    QFETCH(QString, storedUser);
+    QFETCH(QString, stored);
     firmware fw = writer(0);
     fw.setNameDate(name, QString());
-    fw.setUserName(user);
     const QByteArray image = fw.encode(QByteArray(), false);
-    QCOMPARE(fw.name, storedName);
-    QCOMPARE(fw.userName, storedUser);
-    QCOMPARE(image.mid(16, 32), storedName.toLatin1().leftJustified(32, '\0'));
-    QCOMPARE(image.mid(68, 24), storedUser.toLatin1().leftJustified(24, '\0'));
+    QCOMPARE(fw.name, stored);
+    QCOMPARE(image.mid(16, 32), stored.toLatin1().leftJustified(32, '\0'));
 }
 
 void TestFirmware::longDateMovesTheFields()
@@ -241,14 +224,12 @@ void TestFirmware::longDateMovesTheFields()
     QCOMPARE(image.mid(48, 50), QByteArray(50, 'd'));
     QCOMPARE(image.mid(98, 3), QByteArray("VTM"));
     QCOMPARE(le32(image, 101), crcOf(image, 0, 101));
-    // The size block still states the regular size.
-    QCOMPARE(le32(image, 105), quint32(136 + record));
+    QCOMPARE(le32(image, 105), quint32(136 + record)); // the size block keeps its size
 }
 
 void TestFirmware::pageLimits()
 {
     firmware fw = writer(1);
-    QCOMPARE(fw.encode(QByteArray(240 * P, 'a'), false).size(), 136 + 240 * record);
     QVERIFY(fw.encode(QByteArray(240 * P + 1, 'a'), false).isEmpty());
     QByteArray out("untouched");
     fw.addDecodedFirmware(QByteArray(240 * P + 1, 'a'));
@@ -259,22 +240,17 @@ void TestFirmware::pageLimits()
     QCOMPARE(firmware::decode(QByteArray(250 * record + 8, 'p')).size(), 250 * P);
     QVERIFY(firmware::decode(QByteArray(251 * record + 8, 'p')).isEmpty());
     QVERIFY(firmware::decode(QByteArray(record + 7, 'p')).isEmpty());
-    QVERIFY(firmware::decode(QByteArray(5, 'p')).isEmpty());
     QVERIFY(firmware::decode(QByteArray(8, 'p')).isEmpty());
-}
 
-void TestFirmware::pageSizeIsProcessWide()
-{
-    firmware fw = writer(1);
+    // The page size is process-wide: copies share it and every construction restores 2048.
     fw.setPageSize(1000);
-    firmware copy = fw; // copying leaves the page size alone
+    firmware copy = fw;
     QCOMPARE(copy.encode(QByteArray(2500, 'z'), false).size(), 136 + 3 * 1008);
     QCOMPARE(firmware::decode(QByteArray(2 * 1008 + 8, 'q')).size(), 2000);
     fw.setPageSize(0);
     QVERIFY(fw.encode(QByteArray(10, 'z'), false).isEmpty());
     QVERIFY(firmware::decode(QByteArray(16, 'z')).isEmpty());
-    firmware fresh; // every default construction restores 2048
-    QCOMPARE(writer(1).encode(QByteArray(2500, 'z'), false).size(), 136 + 2 * record);
+    QCOMPARE(imageOf(QByteArray(2500, 'z'), 1).size(), 136 + 2 * record);
 }
 
 void TestFirmware::uncompressedFilePadding_data()
@@ -316,7 +292,6 @@ void TestFirmware::compressedFileLayout()
 
     // Walk the pieces with a stock decoder that keeps the whole history.
     const QByteArray body = deciphered(file.mid(128), outerKey, 96);
-    QCOMPARE(body.mid(96, 32), image.mid(96, 32));
     LZ4_streamDecode_t stream;
     LZ4_setStreamDecode(&stream, nullptr, 0);
     QByteArray rebuilt = body.left(128);
@@ -398,33 +373,31 @@ void TestFirmware::fileReturnCodes_data()
     setLe32(otherType, 24, 7);
     QByteArray form3 = payload;
     firmware::crypt1(form3, 0x1234, 0x42, pageKey);
-    const QByteArray same = QByteArray("unchanged");
+    const QByteArray same("unchanged");
+    const QByteArray recoded = expectedRecoded(payload);
 
     // hw1 is 0x1234 in every file, hw2 0x42; the caller's hw2 starts at 77.
     QTest::newRow("short") << form1.left(127) << 0x1234 << false << false << 1 << same << 77;
-    QTest::newRow("length past the end") << longLength << 9 << false << false << 3 << same << 77;
-    QTest::newRow("length past the end, not whole blocks")
+    QTest::newRow("too long") << longLength << 9 << false << false << 3 << same << 77;
+    QTest::newRow("too long, not blocks")
         << longLength.left(form1.size() - 1) << 9 << false << false << 3 << same << 77;
-    QTest::newRow("not whole blocks")
-        << form1.left(form1.size() - 1) << 9 << false << false << 2 << same << 77;
-    QTest::newRow("bad checksum") << badCrc << 0x1234 << false << false << 4 << same << 77;
-    QTest::newRow("bad checksum, other hw") << badCrc << 9 << false << false << 4 << same << 0x42;
-    QTest::newRow("uncompressed") << form1 << 0x1234 << false << false << 0 << form1.mid(128) << 77;
-    QTest::newRow("uncompressed, other hw")
+    QTest::newRow("not blocks") << form1.left(form1.size() - 1) << 9 << false << false << 2 << same
+                                << 77;
+    QTest::newRow("bad crc") << badCrc << 0x1234 << false << false << 4 << same << 77;
+    QTest::newRow("bad crc, other hw") << badCrc << 9 << false << false << 4 << same << 0x42;
+    QTest::newRow("form 1") << form1 << 0x1234 << false << false << 0 << form1.mid(128) << 77;
+    QTest::newRow("form 1, other hw")
         << form1 << 9 << false << false << 5 << form1.mid(128) << 0x42;
-    QTest::newRow("negative length is no length")
+    QTest::newRow("negative length")
         << negativeLength << 0x1234 << false << false << 0 << negativeLength.mid(128) << 77;
-    QTest::newRow("compressed") << form2 << 0x1234 << false << false << 0
-                                << expectedRecoded(payload) << 77;
-    QTest::newRow("compressed, other hw loses 5")
-        << form2 << 9 << false << false << 0 << expectedRecoded(payload) << 0x42;
-    QTest::newRow("compressed, damaged trailer")
+    QTest::newRow("form 2") << form2 << 0x1234 << false << false << 0 << recoded << 77;
+    QTest::newRow("form 2, other hw loses 5")
+        << form2 << 9 << false << false << 0 << recoded << 0x42;
+    QTest::newRow("form 2, bad trailer")
         << badTrailer << 0x1234 << false << false << 2 << QByteArray() << 77;
-    QTest::newRow("compressed wanted")
-        << form2 << 0x1234 << true << false << 0 << form2.mid(128) << 77;
+    QTest::newRow("form 2 wanted") << form2 << 0x1234 << true << false << 0 << form2.mid(128) << 77;
     QTest::newRow("other type") << otherType << 0x1234 << false << false << 1 << same << 77;
-    QTest::newRow("enciphered, deciphered")
-        << form3 << 0x1234 << false << true << 0 << payload << 77;
+    QTest::newRow("form 3, deciphered") << form3 << 0x1234 << false << true << 0 << payload << 77;
 }
 
 void TestFirmware::fileReturnCodes()
@@ -443,8 +416,7 @@ void TestFirmware::fileReturnCodes()
                                            wantCompressed, encodedSize, decipher),
              code);
     QTEST(hw2, "hw2After");
-    // Both words are rewritten together, or neither is.
-    QCOMPARE(hw1, hw2 == 0x42 ? 0x1234 : hw1Before);
+    QCOMPARE(hw1, hw2 == 0x42 ? 0x1234 : hw1Before); // both words are rewritten, or neither
     if (result == "unchanged")
         QCOMPARE(file, original);
     else if (!result.isEmpty())
@@ -463,24 +435,16 @@ void TestFirmware::conversionRoutes()
     firmware::crypt1(tagged, 0x1234, 0x42, outerKey);
     tagged.replace(24, 11, "Vestramarks");
 
-    auto readBack = [](QByteArray body) {
-        if (firmware::recode(body, outerKey) != 0)
-            return QByteArray("recode failed");
-        return deciphered(firmware::decode(body.mid(128)), pageKey);
-    };
     struct Route
     {
         QByteArray file;
         bool wantCompressed;
         int headerKept;
         QByteArray expected;
-    };
-    const Route routes[] = {
+    } const routes[] = {
         {tagged, false, 0, enciphered},
         {tagged, true, 0, payload},
         {fileOf(payload, 0), true, 128, payload},
-        // One page: decrypt1 drops the trailer itself and finds nothing to convert.
-        {fileOf(payload.left(P), 0), true, 128, QByteArray()},
     };
     for (const Route &route : routes) {
         QByteArray file = route.file;
@@ -500,35 +464,33 @@ void TestFirmware::conversionRoutes()
             QCOMPARE(le32(file, 24), 1u);
             QCOMPARE(file.mid(0, 4), QByteArray::fromHex("34124200"));
         }
-        QCOMPARE(file.mid(route.headerKept + 68, 4), QByteArray("VTM\0", 4));
-        QCOMPARE(readBack(file.mid(route.headerKept)), route.expected);
+        QByteArray body = file.mid(route.headerKept);
+        QCOMPARE(body.mid(68, 4), QByteArray("VTM\0", 4));
+        QCOMPARE(firmware::recode(body, outerKey), 0);
+        QCOMPARE(deciphered(firmware::decode(body.mid(128)), pageKey), route.expected);
     }
 }
 
 void TestFirmware::decryptRoutes()
 {
-    const QByteArray payload = makePayload(PayloadKind::Random, 4 * P);
-    QByteArray sealed = imageOf(payload, 0);
-    firmware::crypt1(sealed, 0xBEEF, 0x0102, outerKey);
+    const QByteArray payload = makePayload(PayloadKind::Random, 2 * P);
+    QByteArray form3 = imageOf(payload, 0);
+    firmware::crypt1(form3, 0xBEEF, 0x0102, outerKey);
     int hw1 = 0;
     int hw2 = 0;
-    QByteArray file = sealed;
+    QByteArray file = form3;
     QCOMPARE(firmware::decrypt(file, hw1, hw2, nullptr, 1), 0);
-    QCOMPARE(file, sealed);
+    QCOMPARE(file, form3);
     QCOMPARE(hw1, 0xBEEF);
     QCOMPARE(hw2, 0x0102);
     QCOMPARE(firmware::decrypt(file, hw1, hw2, nullptr, 0), 0);
     QCOMPARE(file, payload);
 
-    for (int pages : {1, 2, 3, 4}) {
+    for (int pages : {1, 2}) {
         QByteArray form1 = fileOf(payload.left(pages * P), 0);
         QCOMPARE(firmware::decrypt1(form1, hw1, hw2, nullptr, 0), 0);
         // Deliberate: with an odd page count decrypt1 cuts the trailer and gets nothing.
         QCOMPARE(form1, pages % 2 ? QByteArray() : payload.left(pages * P));
-    }
-    for (QByteArray tiny : {QByteArray(), QByteArray(3, 'x'), QByteArray(200, 'y')}) {
-        QCOMPARE(firmware::decrypt(tiny, hw1, hw2, nullptr, 0), 0);
-        QVERIFY(tiny.isEmpty());
     }
 }
 
@@ -543,12 +505,9 @@ void TestFirmware::lastPassTakesAnyRecordAsTrailer()
     int markers = 0;
     while (markers != (2 * markers + 2 + length + 15) / 16)
         ++markers;
-    QByteArray body = imageOf(QByteArray(), 1).left(128);
-    for (int i = 0; i < markers; ++i)
-        body.append(2, char(0xFF));
+    QByteArray body = imageOf(QByteArray(), 1).left(128) + QByteArray(2 * markers, char(0xFF));
     body.append(char(length & 0xFF)).append(char(length >> 8)).append(packed, length);
-    body.append((16 - body.size() % 16) % 16, '\0');
-    BlockCipher::applyOnce(outerKey, BlockCipher::Encipher, body, 96);
+    body = sealed(body);
 
     QCOMPARE(firmware::recode(body, outerKey), 2);
     QCOMPARE(body.size(), 128 + 8);
@@ -561,24 +520,18 @@ void TestFirmware::hostileBodies_data()
 
     const QByteArray valid = fileOf(makePayload(PayloadKind::FirmwareLike, 6 * P), 1).mid(128);
     const QByteArray head = imageOf(QByteArray(), 1).left(128);
-    auto body = [&](const QByteArray &tail) {
-        QByteArray b = head + tail;
-        b.append((16 - b.size() % 16) % 16, '\0');
-        BlockCipher::applyOnce(outerKey, BlockCipher::Encipher, b, 96);
-        return b;
-    };
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("a few bytes") << QByteArray(50, 'x');
     QTest::newRow("headers only") << head;
-    QTest::newRow("terminator first") << body(QByteArray(2, '\0'));
+    QTest::newRow("terminator first") << sealed(head + QByteArray(2, '\0'));
     QTest::newRow("pending above the accumulator")
-        << body(QByteArray::fromHex("0011") + QByteArray(64, 'a'));
-    QTest::newRow("no-length markers only") << body(QByteArray(64, char(0xFF)));
-    QTest::newRow("length past the end") << body(QByteArray::fromHex("0008") + QByteArray(30, 'a'));
+        << sealed(head + QByteArray::fromHex("0011") + QByteArray(64, 'a'));
+    QTest::newRow("no-length markers only") << sealed(head + QByteArray(64, char(0xFF)));
+    QTest::newRow("length past the end")
+        << sealed(head + QByteArray::fromHex("0008") + QByteArray(30, 'a'));
     QTest::newRow("garbage block")
-        << body(QByteArray::fromHex("4000") + QByteArray(64, char(0xF0)));
+        << sealed(head + QByteArray::fromHex("4000") + QByteArray(64, char(0xF0)));
     QTest::newRow("ends before the terminator") << valid.left(valid.size() - 48);
-    QTest::newRow("cut mid-way") << valid.left(valid.size() / 32 * 16);
     QTest::newRow("cut mid-block") << valid.left(valid.size() / 2 + 5);
     QTest::newRow("wrong key") << deciphered(valid, pageKey, 96);
 }
@@ -638,7 +591,7 @@ void TestFirmware::addEncodedFirmwareChecks_data()
     QTest::newRow("not whole records") << sized(P + 25, P + 25) << -1;
     QTest::newRow("size word differs") << sized(16 + 2 * record, 7) << -2;
     QTest::newRow("accepted, nothing decoded") << sized(16 + record, 16 + record) << 0;
-    QTest::newRow("an image is no such layout") << imageOf(QByteArray(P, 'i'), 1) << -1;
+    QTest::newRow("an image") << imageOf(QByteArray(P, 'i'), 1) << -1;
 }
 
 void TestFirmware::addEncodedFirmwareChecks()
@@ -659,15 +612,6 @@ void TestFirmware::legacyWordChain()
     QCOMPARE(le32(encoded, 0), le32(data, 0) ^ (legacyChainSeed + legacyChainConstant));
     QCOMPARE(le32(encoded, 4), le32(data, 4) ^ (le32(encoded, 0) + legacyChainConstant));
     QCOMPARE(fw.decode_old(encoded), data.left(4000));
-    QCOMPARE(fw.decode_old(data).size(), 4000);
-
-    // A damaged cipher word spoils only itself and the word after it.
-    QByteArray damaged = encoded;
-    damaged[40] = char(damaged[40] ^ 0x10);
-    const QByteArray decoded = fw.decode_old(damaged);
-    QCOMPARE(decoded.left(40), data.left(40));
-    QVERIFY(decoded.mid(40, 8) != data.mid(40, 8));
-    QCOMPARE(decoded.mid(48), data.mid(48, 4000 - 48));
 }
 
 void TestFirmware::fileOperations()
@@ -684,13 +628,12 @@ void TestFirmware::fileOperations()
 
     QByteArray out;
     QCOMPARE(fw.saveEncodedFile(out, QStringLiteral("ignored")), 0);
-    QByteArray expected = fw.encode(fw.payload, false);
-    firmware::crypt(expected, 0x1234, 0x42, outerKey, 1);
-    QCOMPARE(out, expected);
+    QCOMPARE(out, fileOf(fw.payload, 1));
     QByteArray encodedOut("x");
     QCOMPARE(fw.getEncodedFile(encodedOut), 0);
-    QCOMPARE(encodedOut, fw.encode(fw.payload, false));
+    QCOMPARE(encodedOut, imageOf(fw.payload, 1));
 
+    // Backslashes in the path are taken for separators; a failed save removes the file.
     const QString written = dir.path() + QStringLiteral("\\out.fw");
     QCOMPARE(fw.saveEncodedFile(written), 0);
     QFile file(dir.filePath(QStringLiteral("out.fw")));
