@@ -5,6 +5,7 @@
 #include "tests/firmware/payloads.h"
 
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <QtTest>
 #include <lz4.h>
 #include <tuple>
@@ -17,14 +18,12 @@ constexpr int record = P + 8;
 
 quint32 le32(const QByteArray &a, int at)
 {
-    return quint32(quint8(a[at])) | quint32(quint8(a[at + 1])) << 8 |
-           quint32(quint8(a[at + 2])) << 16 | quint32(quint8(a[at + 3])) << 24;
+    return qFromLittleEndian<quint32>(a.constData() + at);
 }
 
 void setLe32(QByteArray &a, int at, quint32 v)
 {
-    for (int i = 0; i < 4; ++i)
-        a[at + i] = char(v >> (8 * i));
+    qToLittleEndian(v, a.data() + at);
 }
 
 quint32 crcOf(const QByteArray &a, int from, int length)
@@ -266,6 +265,7 @@ void TestFirmware::fileLayout()
     LZ4_streamDecode_t stream;
     LZ4_setStreamDecode(&stream, nullptr, 0);
     QByteArray rebuilt = body.left(128);
+    rebuilt.reserve(image.size()); // the decoder reads its history where it wrote it
     quint32 total = 0;
     int at = 128;
     int pieces = 0;
