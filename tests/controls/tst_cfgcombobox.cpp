@@ -114,10 +114,8 @@ void TestCfgComboBox::colour_data()
     QTest::newRow("changed, enabled") << false << true << false << false << sheet("yellow");
     QTest::newRow("changed, disabled") << false << false << false << false << sheet("#ffff8e");
     QTest::newRow("error wins, enabled") << true << true << false << false << sheet("red");
-    QTest::newRow("error wins, disabled") << true << false << false << false << sheet("red");
     QTest::newRow("error, stored") << true << true << true << false << sheet("red");
     QTest::newRow("empty list is white") << false << true << false << true << sheet("white");
-    QTest::newRow("empty list disabled") << false << false << false << true << sheet("#f1f1f1");
 }
 
 void TestCfgComboBox::colour()

@@ -65,8 +65,6 @@ void TestCfgDoubleSpinBox::binding_data()
         << 20.0;
     QTest::newRow("value read before the bounds")
         << 3 << QVariant("200") << QVariant("300") << QVariant("250") << 200.0 << 300.0 << 250.0;
-    QTest::newRow("number value") << 3 << QVariant(0) << QVariant(10) << QVariant(2) << 0.0 << 10.0
-                                  << 2.0;
     QTest::newRow("type 21 whole numbers")
         << 21 << QVariant(-40) << QVariant(40) << QVariant(-7) << -40.0 << 40.0 << -7.0;
     QTest::newRow("type 21 drops a fractional text")
@@ -187,7 +185,6 @@ void TestCfgDoubleSpinBox::colour_data()
     QTest::newRow("plain") << true << false << false << white;
     QTest::newRow("modified") << true << true << false << yellow;
     QTest::newRow("invalid") << false << true << false << red;
-    QTest::newRow("error has no effect") << true << false << true << white;
 }
 
 void TestCfgDoubleSpinBox::colour()

@@ -41,8 +41,6 @@ void TestCfgSpinBox::binding_data()
         << 21 << QVariant(-50) << QVariant(50) << QVariant(-20) << -50 << 50 << -20;
     QTest::newRow("unsigned -1 reads huge, wraps")
         << 1 << QVariant(0u) << QVariant(0xFFFFFFFFu) << QVariant(7u) << -1 << -1 << -1;
-    QTest::newRow("numbers as text")
-        << 1 << QVariant("10") << QVariant("90") << QVariant("35") << 10 << 90 << 35;
     QTest::newRow("signed text with minus, unsigned type")
         << 1 << QVariant("-5") << QVariant(10) << QVariant(3) << 0 << 10 << 3;
     QTest::newRow("wrong types read 0") << 21 << QVariant(QSize()) << QVariant(QStringList())
@@ -97,8 +95,6 @@ void TestCfgSpinBox::colour_data()
     QTest::newRow("no multiple, red though valid")
         << 1 << 5 << QVariant(22) << true << true << false << red;
     QTest::newRow("invalid") << 1 << 5 << QVariant(20) << false << false << false << red;
-    QTest::newRow("error has no effect")
-        << 1 << 5 << QVariant(20) << true << false << true << white;
     // Negative values are divided by their unsigned reading.
     QTest::newRow("-4 by 3: unsigned reading divides")
         << 21 << 3 << QVariant(-4) << true << false << false << white;
