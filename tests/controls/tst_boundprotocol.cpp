@@ -107,6 +107,7 @@ void TestBoundProtocol::visibility()
     object.hardwareIds = c.ids;
     object.hidden = c.hidden;
     object.licenceGate = c.gate;
+    object.toolTip = QStringLiteral("Prędkość");
     setGUILicenseLevel(c.level);
 
     Form f(kind);
@@ -116,6 +117,9 @@ void TestBoundProtocol::visibility()
     QCOMPARE(f.related1.isVisible(), c.visible);
     QCOMPARE(f.related2.isVisible(), c.visible);
     QVERIFY(f.label.isVisible()); // the label given to the binding is the host's to show
+    QCOMPARE(f.control.widget->toolTip(), QStringLiteral("Prędkość"));
+    QCOMPARE(host.records[10].control, f.control.widget.get());
+    QCOMPARE(host.records[10].label, &f.label);
 }
 
 void TestBoundProtocol::refreshUsesLastIdAndLiveRecord()

@@ -34,9 +34,8 @@ private slots:
     void colour_data();
     void colour();
     void keyEditWritesThenSignals();
-    void skipAndLoadingGuards();
+    void skipGuardsAndOtherSelections();
     void sameTextWritesFirstValue();
-    void updateSelectionOfAnotherParameter();
     void itemBackgrounds();
 };
 
@@ -81,7 +80,6 @@ void TestCfgComboBox::filling()
     TestHost host;
     MainConfigObject &object = host.add(10, 0, value);
     object.options = options;
-    object.toolTip = QStringLiteral("Prędkość magistrali");
     CfgComboBox combo;
     combo.addItem(QStringLiteral("stale"));
     QSignalSpy changedSpy(&combo, SIGNAL(cfgComboBoxChanged()));
@@ -94,8 +92,6 @@ void TestCfgComboBox::filling()
         QCOMPARE(combo.itemData(i).toString(), values[i]);
     }
     QCOMPARE(combo.currentIndex(), current);
-    QCOMPARE(combo.toolTip(), QStringLiteral("Prędkość magistrali"));
-    QCOMPARE(host.records[10].control, &combo);
     // Filling the list is not an edit.
     QVERIFY(host.writes.isEmpty());
     QCOMPARE(changedSpy.count(), 0);
@@ -167,24 +163,34 @@ void TestCfgComboBox::keyEditWritesThenSignals()
     QCOMPARE(sheetAtSignal, sheet("yellow"));
 }
 
-void TestCfgComboBox::skipAndLoadingGuards()
+void TestCfgComboBox::skipGuardsAndOtherSelections()
 {
     TestHost host;
     host.add(10, 0, "125").options = speeds();
+    host.add(11, 0, "500");
+    host.add(12, 0, "999");
     host.stored[10] = QVariant("125");
     CfgComboBox combo;
     QSignalSpy spy(&combo, SIGNAL(cfgComboBoxChanged()));
     combo.setCurrentIndex(-1); // unbound: nothing happens
+    combo.updateSelection(11);
     combo.setSkip(true);
     combo.setReference(&host, 10, nullptr, {}); // skip survives binding
     combo.updateControl(1);
-    combo.setCurrentIndex(2);
+    combo.setCurrentIndex(1);
+    combo.updateSelection(11); // selects the entry holding another parameter's value
+    QCOMPARE(combo.currentIndex(), 2);
     QVERIFY(host.writes.isEmpty());
     QCOMPARE(spy.count(), 0);
     QCOMPARE(combo.styleSheet(), sheet("white")); // not refreshed either
+
     combo.setSkip(false);
-    combo.setCurrentIndex(1);
+    combo.updateSelection(12); // no such entry: the selection stays
+    QCOMPARE(combo.currentIndex(), 2);
+    combo.updateSelection(10); // without skip the change is written
+    QCOMPARE(combo.currentIndex(), 0);
     QCOMPARE(host.writes.size(), 1);
+    QCOMPARE(host.writes[0].value, QVariant("125"));
     QCOMPARE(spy.count(), 1);
     // Emptying the list changes to a text no item has: nothing is written.
     combo.clear();
@@ -198,37 +204,11 @@ void TestCfgComboBox::sameTextWritesFirstValue()
     host.add(10, 0, "a").options = {{0, {"Ten sam", "a"}}, {1, {"Ten sam", "b"}}, {2, {"", ""}}};
     CfgComboBox combo;
     combo.setReference(&host, 10, nullptr, {});
-    combo.setCurrentIndex(1);
-    QCOMPARE(host.writes.size(), 1);
-    QCOMPARE(host.writes[0].value, QVariant("a"));
-    // A blank gap item still writes its empty value.
-    combo.setCurrentIndex(2);
+    combo.setCurrentIndex(1); // deliberately the first item with that text
+    combo.setCurrentIndex(2); // a blank gap item still writes its empty value
     QCOMPARE(host.writes.size(), 2);
+    QCOMPARE(host.writes[0].value, QVariant("a"));
     QCOMPARE(host.writes[1].value, QVariant(QString("")));
-}
-
-void TestCfgComboBox::updateSelectionOfAnotherParameter()
-{
-    TestHost host;
-    host.add(10, 0, "125").options = speeds();
-    host.add(11, 0, "500");
-    host.add(12, 0, "999");
-    CfgComboBox combo;
-    combo.updateSelection(11); // unbound: no crash
-    combo.setReference(&host, 10, nullptr, {});
-
-    combo.setSkip(true);
-    combo.updateSelection(11);
-    combo.setSkip(false);
-    QCOMPARE(combo.currentIndex(), 2);
-    QVERIFY(host.writes.isEmpty());
-
-    combo.updateSelection(12); // no such entry: the selection stays
-    QCOMPARE(combo.currentIndex(), 2);
-    combo.updateSelection(10); // without skip the change is written
-    QCOMPARE(combo.currentIndex(), 0);
-    QCOMPARE(host.writes.size(), 1);
-    QCOMPARE(host.writes[0].value, QVariant("125"));
 }
 
 void TestCfgComboBox::itemBackgrounds()
