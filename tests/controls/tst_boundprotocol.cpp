@@ -38,7 +38,6 @@ struct Visibility
     bool visible;
 };
 const Visibility visibilities[] = {
-    {"inside range", 10, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
     {"at minimum", 5, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
     {"below minimum", 4, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
     {"at maximum", 20, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},

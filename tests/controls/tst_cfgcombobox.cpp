@@ -22,6 +22,8 @@ Options speeds()
 {
     return {{0, {"125 kbit/s", "125"}}, {1, {"250 kbit/s", "250"}}, {2, {"500 kbit/s", "500"}}};
 }
+const QStringList speedTexts{"125 kbit/s", "250 kbit/s", "500 kbit/s"};
+const QStringList speedValues{"125", "250", "500"};
 } // namespace
 
 class TestCfgComboBox : public QObject
@@ -47,9 +49,7 @@ void TestCfgComboBox::filling_data()
     QTest::addColumn<QStringList>("values");
     QTest::addColumn<int>("current");
 
-    QTest::newRow("contiguous") << speeds() << QVariant("250")
-                                << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
-                                << QStringList{"125", "250", "500"} << 1;
+    QTest::newRow("contiguous") << speeds() << QVariant("250") << speedTexts << speedValues << 1;
     QTest::newRow("gap leaves blank, key past end lost")
         << Options{{0, {"A", "a"}}, {1, {"B", "b"}}, {5, {"F", "f"}}} << QVariant("f")
         << QStringList{"A", "B", ""} << QStringList{"a", "b", ""} << 0;
@@ -57,16 +57,14 @@ void TestCfgComboBox::filling_data()
         << Options{{-1, {"X", "x"}}, {0, {"A", "a"}}} << QVariant("a") << QStringList{"A", ""}
         << QStringList{"a", ""} << 0;
     QTest::newRow("no match keeps first")
-        << speeds() << QVariant("1000") << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
-        << QStringList{"125", "250", "500"} << 0;
+        << speeds() << QVariant("1000") << speedTexts << speedValues << 0;
     QTest::newRow("match is case sensitive")
         << Options{{0, {"Wył.", "off"}}, {1, {"Wł.", "on"}}} << QVariant("ON")
         << QStringList{"Wył.", "Wł."} << QStringList{"off", "on"} << 0;
     QTest::newRow("empty options")
         << Options() << QVariant("1") << QStringList() << QStringList() << -1;
-    QTest::newRow("wrong value type") << speeds() << QVariant(QSize(250, 1))
-                                      << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
-                                      << QStringList{"125", "250", "500"} << 0;
+    QTest::newRow("wrong value type")
+        << speeds() << QVariant(QSize(250, 1)) << speedTexts << speedValues << 0;
 }
 
 void TestCfgComboBox::filling()
