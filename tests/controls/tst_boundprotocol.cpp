@@ -6,10 +6,53 @@
 #include <QLabel>
 #include <QtTest>
 
-using IntMap = QMap<int, int>;
-using IntList = QList<int>;
-Q_DECLARE_METATYPE(IntMap)
-Q_DECLARE_METATYPE(IntList)
+namespace {
+// One control on a shown form, with a label and two related widgets beside it.
+struct Form
+{
+    QWidget form;
+    AnyControl control;
+    QLabel label{&form}, related1{&form}, related2{&form};
+
+    explicit Form(const QString &kind) : control(makeAnyControl(kind))
+    {
+        control.widget->setParent(&form);
+        form.show();
+    }
+    void bind(MainConfigIFace *host)
+    {
+        control.setReference(host, 10, &label, {&related1, &related2});
+    }
+    bool shown() const { return control.widget->isVisible(); }
+};
+
+struct Visibility
+{
+    const char *name;
+    uint version;
+    QMap<int, int> min, max;
+    QList<int> ids;
+    int id;
+    bool hidden;
+    int gate, level;
+    bool visible;
+};
+const Visibility visibilities[] = {
+    {"at minimum", 5, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
+    {"below minimum", 4, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
+    {"at maximum", 20, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
+    {"above maximum", 21, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
+    {"maximum 0 is open", 5000, {{0, 5}}, {{0, 0}}, {}, 1, false, 0, 0, true},
+    {"no minimum: 99", 98, {}, {}, {}, 1, false, 0, 0, false},
+    {"no minimum, version 99", 99, {}, {}, {}, 1, false, 0, 0, true},
+    {"negative minimum compares unsigned", 10, {{0, -1}}, {}, {}, 1, false, 0, 0, false},
+    {"hardware listed", 10, {{0, 0}}, {}, {3, 4}, 4, false, 0, 0, true},
+    {"hardware not listed", 10, {{0, 0}}, {}, {3, 4}, 5, false, 0, 0, false},
+    {"hidden flag", 10, {{0, 0}}, {}, {}, 1, true, 0, 0, false},
+    {"licence gate closed", 10, {{0, 0}}, {}, {}, 1, false, 2, 1, false},
+    {"licence gate equal", 10, {{0, 0}}, {}, {}, 1, false, 2, 2, true},
+};
+} // namespace
 
 class TestBoundProtocol : public QObject
 {
@@ -19,18 +62,12 @@ private slots:
     void cleanup() { setGUILicenseLevel(0); }
     void visibility_data();
     void visibility();
-    void hardwareIdZeroMeansLast_data() { kinds(); }
-    void hardwareIdZeroMeansLast();
-    void unboundRefreshLosesId_data() { kinds(); }
-    void unboundRefreshLosesId();
+    void refreshUsesLastIdAndLiveRecord_data() { kinds(); }
+    void refreshUsesLastIdAndLiveRecord();
     void setHiddenRecordsRequest_data() { kinds(); }
     void setHiddenRecordsRequest();
-    void enableGate_data() { kinds(); }
-    void enableGate();
-    void errorFlag_data() { kinds(); }
-    void errorFlag();
-    void rebuiltRecordIsRefetched_data() { kinds(); }
-    void rebuiltRecordIsRefetched();
+    void enableGateAndErrorFlag_data() { kinds(); }
+    void enableGateAndErrorFlag();
     void lookFollowsErrorAndEnabled_data();
     void lookFollowsErrorAndEnabled();
     void editsReachTheLiveRecord_data() { kinds(valueControlKinds()); }
@@ -39,134 +76,76 @@ private slots:
     void unboundOrNullInterfaceNeverCrashes();
 
 private:
-    static void kinds(const QStringList &names = anyControlKinds());
+    static void kinds(const QStringList &names = anyControlKinds())
+    {
+        QTest::addColumn<QString>("kind");
+        for (const QString &kind : names)
+            QTest::newRow(qPrintable(kind)) << kind;
+    }
 };
-
-void TestBoundProtocol::kinds(const QStringList &names)
-{
-    QTest::addColumn<QString>("kind");
-    for (const QString &kind : names)
-        QTest::newRow(qPrintable(kind)) << kind;
-}
 
 void TestBoundProtocol::visibility_data()
 {
     QTest::addColumn<QString>("kind");
-    QTest::addColumn<uint>("version");
-    QTest::addColumn<IntMap>("minVersions");
-    QTest::addColumn<IntMap>("maxVersions");
-    QTest::addColumn<IntList>("hardwareIds");
-    QTest::addColumn<int>("hardwareId");
-    QTest::addColumn<bool>("hiddenFlag");
-    QTest::addColumn<int>("licenceGate");
-    QTest::addColumn<int>("licenceLevel");
-    QTest::addColumn<bool>("visible");
-
-    struct Case
-    {
-        const char *name;
-        uint version;
-        IntMap min, max;
-        IntList ids;
-        int id;
-        bool hidden;
-        int gate, level;
-        bool visible;
-    };
-    const Case cases[] = {
-        {"inside range", 10, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
-        {"at minimum", 5, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
-        {"below minimum", 4, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
-        {"at maximum", 20, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
-        {"above maximum", 21, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
-        {"maximum 0 is open", 5000, {{0, 5}}, {{0, 0}}, {}, 1, false, 0, 0, true},
-        {"no minimum: 99", 98, {}, {}, {}, 1, false, 0, 0, false},
-        {"no minimum, version 99", 99, {}, {}, {}, 1, false, 0, 0, true},
-        {"negative minimum compares unsigned", 10, {{0, -1}}, {}, {}, 1, false, 0, 0, false},
-        {"hardware listed", 10, {{0, 0}}, {}, {3, 4}, 4, false, 0, 0, true},
-        {"hardware not listed", 10, {{0, 0}}, {}, {3, 4}, 5, false, 0, 0, false},
-        {"hidden flag", 10, {{0, 0}}, {}, {}, 1, true, 0, 0, false},
-        {"licence gate closed", 10, {{0, 0}}, {}, {}, 1, false, 2, 1, false},
-        {"licence gate equal", 10, {{0, 0}}, {}, {}, 1, false, 2, 2, true},
-        {"licence gate below", 10, {{0, 0}}, {}, {}, 1, false, 1, 3, true},
-    };
+    QTest::addColumn<int>("row"); // into visibilities
     for (const QString &kind : anyControlKinds())
-        for (const Case &c : cases)
-            QTest::addRow("%s: %s", qPrintable(kind), c.name)
-                << kind << c.version << c.min << c.max << c.ids << c.id << c.hidden << c.gate
-                << c.level << c.visible;
+        for (int i = 0; i < int(std::size(visibilities)); ++i)
+            QTest::addRow("%s: %s", qPrintable(kind), visibilities[i].name) << kind << i;
 }
 
 void TestBoundProtocol::visibility()
 {
     QFETCH(QString, kind);
-    QFETCH(uint, version);
-    QFETCH(IntMap, minVersions);
-    QFETCH(IntMap, maxVersions);
-    QFETCH(IntList, hardwareIds);
-    QFETCH(int, hardwareId);
-    QFETCH(bool, hiddenFlag);
-    QFETCH(int, licenceGate);
-    QFETCH(int, licenceLevel);
-    QFETCH(bool, visible);
-
+    QFETCH(int, row);
+    const Visibility &c = visibilities[row];
     TestHost host;
-    host.setVersion(version);
+    host.setVersion(c.version);
     MainConfigObject &object = host.add(10, 1, 1);
-    object.minVersions = minVersions;
-    object.maxVersions = maxVersions;
-    object.hardwareIds = hardwareIds;
-    object.hidden = hiddenFlag;
-    object.licenceGate = licenceGate;
-    setGUILicenseLevel(licenceLevel);
+    object.minVersions = c.min;
+    object.maxVersions = c.max;
+    object.hardwareIds = c.ids;
+    object.hidden = c.hidden;
+    object.licenceGate = c.gate;
+    object.toolTip = QStringLiteral("Prędkość");
+    setGUILicenseLevel(c.level);
 
-    QWidget form;
-    AnyControl control = makeAnyControl(kind);
-    control.widget->setParent(&form);
-    QLabel label(&form), related1(&form), related2(&form);
-    control.setReference(&host, 10, &label, {&related1, &related2});
-    form.show();
-    control.updateControl(hardwareId);
-    QCOMPARE(control.widget->isVisible(), visible);
-    QCOMPARE(related1.isVisible(), visible);
-    QCOMPARE(related2.isVisible(), visible);
-    // The label given to the binding is the host's to show or hide.
-    QVERIFY(label.isVisible());
+    Form f(kind);
+    f.bind(&host);
+    f.control.updateControl(c.id);
+    QCOMPARE(f.shown(), c.visible);
+    QCOMPARE(f.related1.isVisible(), c.visible);
+    QCOMPARE(f.related2.isVisible(), c.visible);
+    QVERIFY(f.label.isVisible()); // the label given to the binding is the host's to show
+    QCOMPARE(f.control.widget->toolTip(), QStringLiteral("Prędkość"));
+    QCOMPARE(host.records[10].control, f.control.widget.get());
+    QCOMPARE(host.records[10].label, &f.label);
 }
 
-void TestBoundProtocol::hardwareIdZeroMeansLast()
+void TestBoundProtocol::refreshUsesLastIdAndLiveRecord()
 {
     QFETCH(QString, kind);
     TestHost host;
     host.add(10, 1, 1).hardwareIds = {7};
-    QWidget form;
-    AnyControl control = makeAnyControl(kind);
-    control.widget->setParent(&form);
-    control.setReference(&host, 10, nullptr, {});
-    form.show();
-    control.updateControl(7);
-    QVERIFY(control.widget->isVisible());
-    control.updateControl(0);
-    QVERIFY(control.widget->isVisible());
-    control.updateControl(8);
-    QVERIFY(!control.widget->isVisible());
-    control.updateControl(0);
-    QVERIFY(!control.widget->isVisible());
-}
+    Form f(kind);
+    f.control.updateControl(7); // unbound: the id is not remembered
+    f.bind(&host);
+    f.control.updateControl(0);
+    QVERIFY(!f.shown());
+    f.control.updateControl(7);
+    QVERIFY(f.shown());
+    f.control.updateControl(0); // 0 means the last id given
+    QVERIFY(f.shown());
+    f.control.updateControl(8);
+    f.control.updateControl(0);
+    QVERIFY(!f.shown());
 
-void TestBoundProtocol::unboundRefreshLosesId()
-{
-    QFETCH(QString, kind);
-    TestHost host;
-    host.add(10, 1, 1).hardwareIds = {7};
-    QWidget form;
-    AnyControl control = makeAnyControl(kind);
-    control.widget->setParent(&form);
-    form.show();
-    control.updateControl(7); // unbound: the id is not remembered
-    control.setReference(&host, 10, nullptr, {});
-    control.updateControl(0);
-    QVERIFY(!control.widget->isVisible());
+    // The host rebuilds its table: the control must look at the new record.
+    f.control.updateControl(7);
+    host.records.clear();
+    host.setVersion(10);
+    host.add(10, 1, 1).hidden = true;
+    f.control.updateControl(0);
+    QVERIFY(!f.shown());
 }
 
 void TestBoundProtocol::setHiddenRecordsRequest()
@@ -174,87 +153,52 @@ void TestBoundProtocol::setHiddenRecordsRequest()
     QFETCH(QString, kind);
     TestHost host;
     host.add(10, 1, 1);
-    QWidget form;
-    AnyControl control = makeAnyControl(kind);
-    control.widget->setParent(&form);
-    QLabel related(&form);
-    form.show();
+    Form f(kind);
+    f.control.setHidden(true); // unbound: hides, records nothing, no crash
+    QVERIFY(!f.shown());
 
-    control.setHidden(true); // unbound: hides, records nothing, no crash
-    QVERIFY(!control.widget->isVisible());
-
-    control.setReference(&host, 10, nullptr, {&related});
-    control.setHidden(true);
+    f.bind(&host);
+    f.control.setHidden(true);
     QVERIFY(host.records[10].hidden);
-    QVERIFY(!related.isVisible());
-    control.setHidden(false);
+    QVERIFY(!f.related1.isVisible());
+    f.control.setHidden(false);
     QVERIFY(!host.records[10].hidden);
-    QVERIFY(control.widget->isVisible());
-    QVERIFY(related.isVisible());
+    QVERIFY(f.shown());
+    QVERIFY(f.related1.isVisible());
 
     // setHidden(false) shows only what the other rules allow.
     host.setVersion(1);
     host.records[10].minVersions = {{0, 5}};
-    control.setHidden(false);
-    QVERIFY(!control.widget->isVisible());
+    f.control.setHidden(false);
+    QVERIFY(!f.shown());
 }
 
-void TestBoundProtocol::enableGate()
+void TestBoundProtocol::enableGateAndErrorFlag()
 {
     QFETCH(QString, kind);
     TestHost host;
     host.add(10, 1, 1);
     AnyControl control = makeAnyControl(kind);
-    control.setReference(&host, 10, nullptr, {});
-    QWidget *widget = control.widget.get();
-
-    control.setEnabled(false);
-    QVERIFY(!widget->isEnabled());
-    control.updateEnableState(true); // opening the gate does not enable
-    QVERIFY(!widget->isEnabled());
-    control.setEnabled(true);
-    QVERIFY(widget->isEnabled());
-    control.updateEnableState(false); // closing it disables
-    QVERIFY(!widget->isEnabled());
-    control.setEnabled(true); // no effect while closed
-    QVERIFY(!widget->isEnabled());
-    control.updateEnableState(true);
-    QVERIFY(!widget->isEnabled());
-    control.setEnabled(true);
-    QVERIFY(widget->isEnabled());
-}
-
-void TestBoundProtocol::errorFlag()
-{
-    QFETCH(QString, kind);
-    TestHost host;
-    host.add(10, 1, 1);
-    AnyControl control = makeAnyControl(kind);
-    QVERIFY(!control.isError());
     control.setError(true);
     QVERIFY(control.isError());
     control.setReference(&host, 10, nullptr, {}); // binding clears it
     QVERIFY(!control.isError());
-}
 
-void TestBoundProtocol::rebuiltRecordIsRefetched()
-{
-    QFETCH(QString, kind);
-    TestHost host;
-    host.add(10, 1, 1);
-    QWidget form;
-    AnyControl control = makeAnyControl(kind);
-    control.widget->setParent(&form);
-    control.setReference(&host, 10, nullptr, {});
-    form.show();
-    control.updateControl(1);
-    QVERIFY(control.widget->isVisible());
-    // The host rebuilds its table: the control must look at the new record.
-    host.records.clear();
-    host.setVersion(10);
-    host.add(10, 1, 1).hidden = true;
-    control.updateControl(0);
-    QVERIFY(!control.widget->isVisible());
+    // setEnabled (or the gate, updateEnableState) with the state it must leave.
+    const struct
+    {
+        bool gate, on, enabled;
+    } steps[] = {
+        {false, false, false}, {true, true, false}, {false, true, true}, {true, false, false},
+        {false, true, false},  {true, true, false}, {false, true, true},
+    };
+    for (const auto &step : steps) {
+        if (step.gate)
+            control.updateEnableState(step.on);
+        else
+            control.setEnabled(step.on);
+        QCOMPARE(control.widget->isEnabled(), step.enabled);
+    }
 }
 
 void TestBoundProtocol::lookFollowsErrorAndEnabled_data()
@@ -264,15 +208,12 @@ void TestBoundProtocol::lookFollowsErrorAndEnabled_data()
     QTest::addColumn<bool>("enabledPaints");
 
     // Deliberately uneven: only these two show `error`, only these two the enabled state.
-    const QMap<QString, QPair<bool, bool>> looks{
-        {"checkbox", {false, true}},       {"combobox", {true, true}},
-        {"lineedit", {true, false}},       {"spinbox", {false, false}},
-        {"doublespinbox", {false, false}}, {"radiobutton", {false, false}},
-    };
-    for (const QString &kind : valueControlKinds()) {
-        QVERIFY2(looks.contains(kind), qPrintable(kind));
-        QTest::newRow(qPrintable(kind)) << kind << looks[kind].first << looks[kind].second;
-    }
+    QTest::newRow("checkbox") << "checkbox" << false << true;
+    QTest::newRow("combobox") << "combobox" << true << true;
+    QTest::newRow("lineedit") << "lineedit" << true << false;
+    QTest::newRow("spinbox") << "spinbox" << false << false;
+    QTest::newRow("doublespinbox") << "doublespinbox" << false << false;
+    QTest::newRow("radiobutton") << "radiobutton" << false << false;
 }
 
 void TestBoundProtocol::lookFollowsErrorAndEnabled()
@@ -296,7 +237,6 @@ void TestBoundProtocol::lookFollowsErrorAndEnabled()
     control.setError(false);
     control.updateControl(0);
     QCOMPARE(control.widget->styleSheet(), normal);
-
     control.setEnabled(false);
     QCOMPARE(control.widget->styleSheet() != normal, enabledPaints);
 }
@@ -337,7 +277,9 @@ void TestBoundProtocol::unboundOrNullInterfaceNeverCrashes()
     QFETCH(QString, kind);
     AnyControl control = makeAnyControl(kind);
     QLabel label;
-    auto exercise = [&] {
+    for (int pass = 0; pass < 2; ++pass) {
+        if (pass == 1)
+            control.setReference(nullptr, 10, &label, {&label}); // a host passing no table
         control.updateControl(3);
         if (control.userEdit)
             control.userEdit();
@@ -349,12 +291,7 @@ void TestBoundProtocol::unboundOrNullInterfaceNeverCrashes()
         control.setHidden(false);
         control.setError(true);
         control.updateControl(0);
-        if (control.userEdit)
-            control.userEdit();
-    };
-    exercise();
-    control.setReference(nullptr, 10, &label, {&label}); // a host passing no table
-    exercise();
+    }
     QVERIFY(control.widget->isEnabled());
 }
 

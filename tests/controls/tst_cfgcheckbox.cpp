@@ -1,7 +1,6 @@
 #include "telecfg/controls/cfgcheckbox.h"
 #include "tests/support/testhost.h"
 
-#include <QLabel>
 #include <QtTest>
 
 class TestCfgCheckBox : public QObject
@@ -13,7 +12,6 @@ private slots:
     void bindingShowsValue();
     void userEditWrites_data();
     void userEditWrites();
-    void unboundEditWritesNothing();
     void styleSheets_data();
     void styleSheets();
     void clickRefreshesColour();
@@ -23,35 +21,29 @@ void TestCfgCheckBox::bindingShowsValue_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("expectedState");
+    QTest::addColumn<bool>("checked");
 
-    QTest::newRow("bool true") << 1 << QVariant(true) << int(Qt::Checked);
-    QTest::newRow("bool false") << 1 << QVariant(false) << int(Qt::Unchecked);
-    QTest::newRow("type 22, 1") << 22 << QVariant(1u) << int(Qt::Checked);
-    QTest::newRow("type 22, 7") << 22 << QVariant(7) << int(Qt::Checked);
-    QTest::newRow("type 22, 0") << 22 << QVariant(0) << int(Qt::Unchecked);
-    QTest::newRow("type 22, text 1") << 22 << QVariant(QStringLiteral("1")) << int(Qt::Checked);
-    QTest::newRow("bool from text") << 0 << QVariant(QStringLiteral("true")) << int(Qt::Checked);
-    QTest::newRow("invalid value") << 0 << QVariant() << int(Qt::Unchecked);
-    QTest::newRow("wrong type: list") << 22 << QVariant(QStringList{"x"}) << int(Qt::Unchecked);
+    QTest::newRow("bool true") << 1 << QVariant(true) << true;
+    QTest::newRow("bool false") << 1 << QVariant(false) << false;
+    QTest::newRow("type 22, 7") << 22 << QVariant(7) << true;
+    QTest::newRow("type 22, 0") << 22 << QVariant(0) << false;
+    QTest::newRow("type 22, text 1") << 22 << QVariant("1") << true;
+    QTest::newRow("bool from text") << 0 << QVariant("true") << true;
+    QTest::newRow("invalid value") << 0 << QVariant() << false;
+    QTest::newRow("wrong type: list") << 22 << QVariant(QStringList{"x"}) << false;
 }
 
 void TestCfgCheckBox::bindingShowsValue()
 {
     QFETCH(int, type);
     QFETCH(QVariant, value);
-    QFETCH(int, expectedState);
+    QFETCH(bool, checked);
 
     TestHost host;
-    MainConfigObject &object = host.add(10, type, value);
-    object.toolTip = QStringLiteral("Czujnik");
+    host.add(10, type, value);
     CfgCheckBox box;
-    QLabel label;
-    box.setReference(&host, 10, &label, {});
-    QCOMPARE(int(box.checkState()), expectedState);
-    QCOMPARE(box.toolTip(), QStringLiteral("Czujnik"));
-    QCOMPARE(host.records[10].control, &box);
-    QCOMPARE(host.records[10].label, &label);
+    box.setReference(&host, 10, nullptr, {});
+    QCOMPARE(box.checkState(), checked ? Qt::Checked : Qt::Unchecked);
     QCOMPARE(box.getReference(), 10);
 }
 
@@ -80,8 +72,7 @@ void TestCfgCheckBox::userEditWrites()
     QFETCH(QVariant, expected);
 
     TestHost host;
-    host.add(10, type, state == 0 ? QVariant(true) : QVariant(false)).partialIsChecked =
-        partialIsChecked;
+    host.add(10, type, state == 0).partialIsChecked = partialIsChecked;
     CfgCheckBox box;
     box.setTristate(true);
     box.setReference(&host, 10, nullptr, {});
@@ -93,54 +84,28 @@ void TestCfgCheckBox::userEditWrites()
     QCOMPARE(host.writes[0].value, expected);
 }
 
-void TestCfgCheckBox::unboundEditWritesNothing()
-{
-    TestHost host;
-    CfgCheckBox box;
-    box.setChecked(true);
-    QVERIFY(host.writes.isEmpty());
-}
-
 void TestCfgCheckBox::styleSheets_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<bool>("modified");
     QTest::addColumn<QString>("sheet");
 
-    const QString hover = QStringLiteral("QCheckBox::indicator:unchecked:hover {image: "
-                                         "url(:/images/checkbox_unchecked_hover.png);}");
-    const QString checkedHover = QStringLiteral(
-        "QCheckBox::indicator:checked:hover {image: url(:/images/checkbox_checked_hover.png);}");
-    auto sheet = [&](const QString &unchecked, const QString &checked, const QString &sep) {
-        return unchecked + sep + checked + sep + hover + sep + checkedHover;
+    // The four indicator images of one look ("grey", "yellow_..._disabled", ...).
+    auto sheet = [](const char *colour, const char *suffix, const char *sep) {
+        return QString::asprintf(
+            "QCheckBox::indicator:unchecked {image: url(:/images/checkbox_%s_unchecked%s.png);}%s"
+            "QCheckBox::indicator:checked {image: url(:/images/checkbox_%s_checked%s.png);}%s"
+            "QCheckBox::indicator:unchecked:hover {image: "
+            "url(:/images/checkbox_unchecked_hover.png);}%s"
+            "QCheckBox::indicator:checked:hover {image: url(:/images/checkbox_checked_hover.png);}",
+            colour, suffix, sep, colour, suffix, sep, sep);
     };
-    const QString six = QStringLiteral("\t\t\t\t\t\t  ");
-    const QString five = QStringLiteral("\t\t\t\t\t  ");
-    QTest::newRow("enabled") << true << false
-                             << sheet("QCheckBox::indicator:unchecked {image: "
-                                      "url(:/images/checkbox_grey_unchecked.png);}",
-                                      "QCheckBox::indicator:checked {image: "
-                                      "url(:/images/checkbox_grey_checked.png);}",
-                                      six);
-    QTest::newRow("enabled modified")
-        << true << true
-        << sheet("QCheckBox::indicator:unchecked {image: "
-                 "url(:/images/checkbox_yellow_unchecked.png);}",
-                 "QCheckBox::indicator:checked {image: url(:/images/checkbox_yellow_checked.png);}",
-                 six);
-    QTest::newRow("disabled") << false << false
-                              << sheet("QCheckBox::indicator:unchecked {image: "
-                                       "url(:/images/checkbox_grey_unchecked_disabled.png);}",
-                                       "QCheckBox::indicator:checked {image: "
-                                       "url(:/images/checkbox_grey_checked_disabled.png);}",
-                                       six);
+    const char *six = "\t\t\t\t\t\t  ";
+    QTest::newRow("enabled") << true << false << sheet("grey", "", six);
+    QTest::newRow("enabled modified") << true << true << sheet("yellow", "", six);
+    QTest::newRow("disabled") << false << false << sheet("grey", "_disabled", six);
     QTest::newRow("disabled modified")
-        << false << true
-        << sheet("QCheckBox::indicator:unchecked {image: "
-                 "url(:/images/checkbox_yellow_unchecked_disabled.png);}",
-                 "QCheckBox::indicator:checked {image: "
-                 "url(:/images/checkbox_yellow_checked_disabled.png);}",
-                 five);
+        << false << true << sheet("yellow", "_disabled", "\t\t\t\t\t  ");
 }
 
 void TestCfgCheckBox::styleSheets()
@@ -154,8 +119,7 @@ void TestCfgCheckBox::styleSheets()
     if (modified)
         host.modified.insert(10);
     CfgCheckBox box;
-    // The unbound control already wears the normal sheet.
-    if (enabled && !modified)
+    if (enabled && !modified) // the unbound control already wears the normal sheet
         QCOMPARE(box.styleSheet(), sheet);
     box.setReference(&host, 10, nullptr, {});
     box.setEnabled(enabled);

@@ -34,8 +34,7 @@ private slots:
     void edits_data();
     void edits();
     void keyEdit();
-    void colour_data();
-    void colour();
+    void invalidIsRed();
 };
 
 void TestCfgDoubleSpinBox::initTestCase()
@@ -48,56 +47,39 @@ void TestCfgDoubleSpinBox::initTestCase()
 void TestCfgDoubleSpinBox::binding_data()
 {
     QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("minimum");
-    QTest::addColumn<QVariant>("maximum");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<double>("shownMin");
-    QTest::addColumn<double>("shownMax");
-    QTest::addColumn<double>("shown");
+    QTest::addColumn<QVariantList>("record"); // minimum, maximum, value
+    QTest::addColumn<QList<double>>("shown"); // minimum, maximum, value
 
-    QTest::newRow("value in local notation") << 3 << QVariant(local("0#5")) << QVariant("100")
-                                             << QVariant(local("0#75")) << 0.5 << 100.0 << 0.75;
+    QTest::newRow("value in local notation")
+        << 3 << QVariantList{local("0#5"), "100", local("0#75")} << QList<double>{0.5, 100, 0.75};
     QTest::newRow("value in the other notation is adapted")
-        << 3 << QVariant("0") << QVariant("100") << QVariant(foreign("0#75")) << 0.0 << 100.0
-        << 0.75;
+        << 3 << QVariantList{"0", "100", foreign("0#75")} << QList<double>{0, 100, 0.75};
     QTest::newRow("bound in the other notation reads 0")
-        << 3 << QVariant(foreign("0#5")) << QVariant("100") << QVariant("20") << 0.0 << 100.0
-        << 20.0;
+        << 3 << QVariantList{foreign("0#5"), "100", "20"} << QList<double>{0, 100, 20};
     QTest::newRow("value read before the bounds")
-        << 3 << QVariant("200") << QVariant("300") << QVariant("250") << 200.0 << 300.0 << 250.0;
-    QTest::newRow("number value") << 3 << QVariant(0) << QVariant(10) << QVariant(2) << 0.0 << 10.0
-                                  << 2.0;
+        << 3 << QVariantList{"200", "300", "250"} << QList<double>{200, 300, 250};
     QTest::newRow("type 21 whole numbers")
-        << 21 << QVariant(-40) << QVariant(40) << QVariant(-7) << -40.0 << 40.0 << -7.0;
+        << 21 << QVariantList{-40, 40, -7} << QList<double>{-40, 40, -7};
     QTest::newRow("type 21 drops a fractional text")
-        << 21 << QVariant(-40) << QVariant(40) << QVariant(local("2#5")) << -40.0 << 40.0 << 0.0;
-    QTest::newRow("wrong types read 0") << 3 << QVariant(QSize()) << QVariant(QStringList())
-                                        << QVariant(QSize(3, 4)) << 0.0 << 0.0 << 0.0;
+        << 21 << QVariantList{-40, 40, local("2#5")} << QList<double>{-40, 40, 0};
+    QTest::newRow("wrong types read 0")
+        << 3 << QVariantList{QSize(), QStringList(), QSize(3, 4)} << QList<double>{0, 0, 0};
 }
 
 void TestCfgDoubleSpinBox::binding()
 {
     QFETCH(int, type);
-    QFETCH(QVariant, minimum);
-    QFETCH(QVariant, maximum);
-    QFETCH(QVariant, value);
-    QFETCH(double, shownMin);
-    QFETCH(double, shownMax);
-    QFETCH(double, shown);
+    QFETCH(QVariantList, record);
+    QFETCH(QList<double>, shown);
 
     TestHost host;
-    MainConfigObject &object = host.add(10, type, value);
-    object.minimum = minimum;
-    object.maximum = maximum;
+    MainConfigObject &object = host.add(10, type, record[2]);
+    object.minimum = record[0];
+    object.maximum = record[1];
     object.step = 0; // every nonzero value then passes the step rule
-    object.toolTip = QStringLiteral("Gęstość paliwa");
     CfgDoubleSpinBox box;
     box.setReference(&host, 10, nullptr, {});
-    QCOMPARE(box.minimum(), shownMin);
-    QCOMPARE(box.maximum(), shownMax);
-    QCOMPARE(box.value(), shown);
-    QCOMPARE(box.toolTip(), QStringLiteral("Gęstość paliwa"));
-    QCOMPARE(host.records[10].control, &box);
+    QCOMPARE((QList<double>{box.minimum(), box.maximum(), box.value()}), shown);
     for (const TestHost::Write &write : qAsConst(host.writes))
         QCOMPARE(write.value.userType(), int(QMetaType::Double));
 }
@@ -177,38 +159,15 @@ void TestCfgDoubleSpinBox::keyEdit()
     QCOMPARE(box.styleSheet(), red);
 }
 
-void TestCfgDoubleSpinBox::colour_data()
+void TestCfgDoubleSpinBox::invalidIsRed()
 {
-    QTest::addColumn<bool>("valid");
-    QTest::addColumn<bool>("modified");
-    QTest::addColumn<bool>("error");
-    QTest::addColumn<QString>("sheet");
-
-    QTest::newRow("plain") << true << false << false << white;
-    QTest::newRow("modified") << true << true << false << yellow;
-    QTest::newRow("invalid") << false << true << false << red;
-    QTest::newRow("error has no effect") << true << false << true << white;
-}
-
-void TestCfgDoubleSpinBox::colour()
-{
-    QFETCH(bool, valid);
-    QFETCH(bool, modified);
-    QFETCH(bool, error);
-    QFETCH(QString, sheet);
-
     TestHost host;
     host.add(10, 3, "3").step = 2; // no multiple: the refresh does not care
-    if (!valid)
-        host.invalid.insert(10);
-    if (modified)
-        host.modified.insert(10);
+    host.invalid.insert(10);
     CfgDoubleSpinBox box;
     box.setReference(&host, 10, nullptr, {});
-    box.setError(error);
-    box.setEnabled(false); // the look ignores the enabled state
     box.updateControl(1);
-    QCOMPARE(box.styleSheet(), sheet);
+    QCOMPARE(box.styleSheet(), red);
 }
 
 QTEST_MAIN(TestCfgDoubleSpinBox)

