@@ -247,49 +247,42 @@ void TestReadBlockConfigWizard::fuelPicks()
 
 void TestReadBlockConfigWizard::results_data()
 {
-    QTest::addColumn<bool>("closeWindow");
-    QTest::addColumn<bool>("acceptFile");
     QTest::addColumn<int>("result");
-    QTest::addColumn<BlockStates>("blockStates");
     QTest::addColumn<QString>("filePath");
-    QTest::addColumn<int>("dialogsLeft");
 
-    const BlockStates fuelOnly{{0, true}, {1, false}, {2, false}};
-    QTest::newRow("file chosen") << false << true << 0 << fuelOnly << "nowy.cfg" << 2;
-    QTest::newRow("file cancelled") << false << false << 2 << noBlocks << "" << 0;
-    QTest::newRow("blocks closed") << true << false << 1 << noBlocks << "start.cfg" << 0;
+    QTest::newRow("file chosen") << 0 << "nowy.cfg";
+    QTest::newRow("file cancelled") << 2 << "";
+    QTest::newRow("blocks closed") << 1 << "start.cfg";
 }
 
+// The user ticks fuel and takes "nowy.cfg" (0), cancels the file dialog (2) or closes the
+// block choice (1).
 void TestReadBlockConfigWizard::results()
 {
-    QFETCH(bool, closeWindow);
-    QFETCH(bool, acceptFile);
     QFETCH(int, result);
-    QFETCH(BlockStates, blockStates);
     QFETCH(QString, filePath);
-    QFETCH(int, dialogsLeft);
 
     QWidget parent;
     ReadBlockConfigWizard wizard(QStringLiteral("start.cfg"), &parent);
     QScopedPointer<ModalCatcher> user(userOf(
-        [closeWindow](const BlockPage &page) {
-            if (closeWindow)
+        [result](const BlockPage &page) {
+            if (result == 1)
                 page.dialog->close();
             else
                 tickFuelAndGoOn(page);
         },
-        acceptFile ? typeName(QStringLiteral("nowy.cfg")) : FileAction(cancelFile)));
+        result == 0 ? typeName(QStringLiteral("nowy.cfg")) : FileAction(cancelFile)));
     QCOMPARE(wizard.exec(directory.path()), result);
 
     const ReadBlockConfigWizard::Output output = wizard.getOutput();
-    QCOMPARE(output.blockStates, blockStates);
+    QCOMPARE(output.blockStates, (BlockStates{{0, result == 0}, {1, false}, {2, false}}));
     // A name that does not exist comes back as typed, in the start directory.
     QCOMPARE(output.filePath, result == 0 ? QDir(directory.path()).filePath(filePath) : filePath);
+    // After 1 or 2 the dialogs and their fuel tabs are gone: nothing is read from them.
     const QList<QDialog *> left = parent.findChildren<QDialog *>();
-    QCOMPARE(left.size(), dialogsLeft);
+    QCOMPARE(left.size(), result == 0 ? 2 : 0);
     for (QDialog *dialog : left)
         QVERIFY(dialog->isHidden());
-    // After 1 or 2 the fuel tabs are gone with their dialog: nothing is read from them.
     QCOMPARE(output.fuelSections.values(),
              result == 0 ? QList<int>({1, 2, 3, 4}) : QList<int>({0, 0, 0, 0}));
 }
