@@ -21,23 +21,6 @@ void collectDebug(QtMsgType type, const QMessageLogContext &, const QString &mes
         debugLines.append(message);
 }
 
-// Captures the debug stream for as long as it lives.
-class DebugCapture
-{
-public:
-    DebugCapture()
-    {
-        debugLines.clear();
-        previous = qInstallMessageHandler(collectDebug);
-    }
-    ~DebugCapture() { qInstallMessageHandler(previous); }
-    DebugCapture(const DebugCapture &) = delete;
-    DebugCapture &operator=(const DebugCapture &) = delete;
-
-private:
-    QtMessageHandler previous;
-};
-
 QComboBox *commandBox(QWidget *dialog)
 {
     return dialog->findChild<QComboBox *>(QStringLiteral("leCmd"));
@@ -50,10 +33,8 @@ class TestCmdDialog : public QObject
 
 private slots:
     void form();
-    void items_data();
-    void items();
-    void typedCommand_data();
-    void typedCommand();
+    void commands_data();
+    void commands();
     void debugStream();
     void execByButtons_data();
     void execByButtons();
@@ -80,107 +61,67 @@ void TestCmdDialog::form()
     QCOMPARE(dialog.focusWidget(), commandBox(&dialog));
 }
 
-void TestCmdDialog::items_data()
+void TestCmdDialog::commands_data()
 {
     QTest::addColumn<Commands>("commands");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QVariantList>("keys");
-
-    QTest::newRow("gap at 2") << Commands{{3, "c"}, {1, "a"}} << QStringList{"a", "c"}
-                              << QVariantList{1, 3};
-    QTest::newRow("key 0 first") << Commands{{2, "b"}, {0, "z"}} << QStringList{"z", "b"}
-                                 << QVariantList{0, 2};
-    QTest::newRow("negative keys left out")
-        << Commands{{-4, "n"}, {5, "p"}} << QStringList{"p"} << QVariantList{5};
-    QTest::newRow("only negative keys") << Commands{{-1, "n"}} << QStringList{} << QVariantList{};
-    QTest::newRow("largest key") << Commands{{INT_MAX, "max"}, {7, "g"}} << QStringList{"g", "max"}
-                                 << QVariantList{7, INT_MAX};
-    QTest::newRow("empty") << Commands{} << QStringList{} << QVariantList{};
-}
-
-void TestCmdDialog::items()
-{
-    QFETCH(Commands, commands);
-    QFETCH(QStringList, texts);
-    QFETCH(QVariantList, keys);
-
-    CmdDialog dialog(nullptr, commands);
-    QComboBox *box = commandBox(&dialog);
-    QStringList shownTexts;
-    QVariantList shownKeys;
-    for (int i = 0; i < box->count(); ++i) {
-        shownTexts << box->itemText(i);
-        shownKeys << box->itemData(i);
-    }
-    QCOMPARE(shownTexts, texts);
-    QCOMPARE(shownKeys, keys);
-    QCOMPARE(box->currentIndex(), -1);
-    QCOMPARE(box->currentText(), QString());
-}
-
-void TestCmdDialog::typedCommand_data()
-{
-    QTest::addColumn<Commands>("commands");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("expected");
+    QTest::addColumn<QString>("items");      // "key:text" in the list's order
+    QTest::addColumn<QStringList>("typing"); // what is typed, what getCmd returns
 
     const Commands reset{{1, "Reset 5"}, {2, "Get Speed"}, {4, "ab cd"}, {6, "Reset"}};
-    QTest::newRow("command case and spacing") << reset << "RESET   5"
-                                              << "Reset 5";
-    QTest::newRow("argument spacing") << reset << "ab c d"
-                                      << "ab cd";
-    QTest::newRow("extra argument") << reset << "reset 5 a"
-                                    << "reset 5 a";
-    QTest::newRow("argument case counts") << reset << "get speed"
-                                          << "get speed";
-    QTest::newRow("command alone") << reset << "reset"
-                                   << "Reset";
-    QTest::newRow("leading space") << reset << " Reset"
-                                   << " Reset";
-    QTest::newRow("nothing typed") << reset << ""
-                                   << "";
-    QTest::newRow("no items") << Commands{} << "RESET 5"
-                              << "RESET 5";
-    QTest::newRow("first key wins") << Commands{{1, "Out 1"}, {2, "OUT 1"}} << "out 1"
-                                    << "Out 1";
-    QTest::newRow("first key wins, reversed") << Commands{{1, "OUT 1"}, {2, "Out 1"}} << "out 1"
-                                              << "OUT 1";
+    const QString resetItems = QStringLiteral("1:Reset 5 2:Get Speed 4:ab cd 6:Reset ");
+    const QStringList none{"", ""};
+    QTest::newRow("gap, key 0") << Commands{{3, "c"}, {0, "a"}} << "0:a 3:c " << none;
+    QTest::newRow("negative key") << Commands{{-4, "n"}, {5, "p"}} << "5:p " << none;
+    QTest::newRow("largest key") << Commands{{INT_MAX, "m"}, {7, "g"}} << "7:g 2147483647:m "
+                                 << none;
+    QTest::newRow("case, spacing") << reset << resetItems << QStringList{"RESET   5", "Reset 5"};
+    QTest::newRow("argument spacing") << reset << resetItems << QStringList{"ab c d", "ab cd"};
+    QTest::newRow("extra argument") << reset << resetItems << QStringList{"reset 5 a", "reset 5 a"};
+    QTest::newRow("argument case") << reset << resetItems << QStringList{"get speed", "get speed"};
+    QTest::newRow("command alone") << reset << resetItems << QStringList{"reset", "Reset"};
+    QTest::newRow("leading space") << reset << resetItems << QStringList{" Reset", " Reset"};
+    QTest::newRow("no items") << Commands{} << QString() << QStringList{"RESET 5", "RESET 5"};
+    QTest::newRow("first key wins") << Commands{{1, "Out 1"}, {2, "OUT 1"}} << "1:Out 1 2:OUT 1 "
+                                    << QStringList{"out 1", "Out 1"};
+    QTest::newRow("first key wins too") << Commands{{1, "OUT 1"}, {2, "Out 1"}}
+                                        << "1:OUT 1 2:Out 1 " << QStringList{"out 1", "OUT 1"};
 }
 
-void TestCmdDialog::typedCommand()
+// The list offers the commands by ascending key, none selected; getCmd maps what is typed.
+void TestCmdDialog::commands()
 {
     QFETCH(Commands, commands);
-    QFETCH(QString, typed);
-    QFETCH(QString, expected);
+    QFETCH(QString, items);
+    QFETCH(QStringList, typing);
 
     CmdDialog dialog(nullptr, commands);
     QComboBox *box = commandBox(&dialog);
-    QTest::keyClicks(box->lineEdit(), typed);
-    QCOMPARE(box->currentText(), typed);
-    QCOMPARE(dialog.getCmd(), expected);
+    QString shown;
+    for (int i = 0; i < box->count(); ++i)
+        shown += box->itemData(i).toString() + ':' + box->itemText(i) + ' ';
+    QCOMPARE(shown, items);
+    QCOMPARE(box->currentText(), QString());
+    QTest::keyClicks(box->lineEdit(), typing[0]);
+    QCOMPARE(box->currentText(), typing[0]);
+    QCOMPARE(dialog.getCmd(), typing[1]);
 }
 
+// The keys, unsorted and sorted, and every edit go to the debug stream; getCmd stays quiet.
 void TestCmdDialog::debugStream()
 {
-    DebugCapture capture;
+    debugLines.clear();
+    const QtMessageHandler previous = qInstallMessageHandler(collectDebug);
     Commands commands{{3, "c"}, {1, "a"}, {2, "b"}};
     CmdDialog dialog(nullptr, commands);
-    QCOMPARE(debugLines.size(), 2);
-    QStringList unsorted = debugLines.at(0).mid(1, debugLines.at(0).size() - 2).split(", ");
+    QTest::keyClicks(commandBox(&dialog)->lineEdit(), QStringLiteral("xy"));
+    dialog.getCmd();
+    qInstallMessageHandler(previous);
+
+    QCOMPARE(debugLines.size(), 4);
+    QStringList unsorted = debugLines.takeFirst().remove('(').remove(')').split(", ");
     std::sort(unsorted.begin(), unsorted.end());
     QCOMPARE(unsorted, QStringList({"1", "2", "3"}));
-    QCOMPARE(debugLines.at(1), QStringLiteral("(1, 2, 3)"));
-
-    debugLines.clear();
-    QTest::keyClicks(commandBox(&dialog)->lineEdit(), QStringLiteral("xy"));
-    QCOMPARE(debugLines, QStringList({"\"x\"", "\"xy\""}));
-
-    debugLines.clear();
-    dialog.getCmd();
-    Commands none;
-    CmdDialog empty(nullptr, none);
-    empty.getCmd();
-    QCOMPARE(debugLines, QStringList());
+    QCOMPARE(debugLines, QStringList({"(1, 2, 3)", "\"x\"", "\"xy\""}));
 }
 
 void TestCmdDialog::execByButtons_data()

@@ -9,35 +9,13 @@
 #include <QtTest>
 
 namespace {
-// In the order of the constructor's flags and of the getters.
+// Bit i stands for box i, in the order of the constructor's flags and of the getters.
 const QStringList boxNames{"cbBt", "cbFuel", "cbCan", "cbConf", "cbDallas"};
 
-QList<bool> getters(const SkipReadDataDialog &dialog)
+int getters(const SkipReadDataDialog &dialog)
 {
-    return {dialog.getSkipBt(), dialog.getSkipFuel(), dialog.getSkipCan(), dialog.getSkipConf(),
-            dialog.getSkipDallas()};
-}
-
-QList<bool> shownBoxes(QWidget *dialog)
-{
-    QList<bool> checked;
-    for (const QString &name : boxNames)
-        checked << dialog->findChild<QCheckBox *>(name)->isChecked();
-    return checked;
-}
-
-QList<bool> onlyFlag(int index)
-{
-    QList<bool> flags{false, false, false, false, false};
-    if (index >= 0)
-        flags[index] = true;
-    return flags;
-}
-
-void clickButton(QWidget *dialog, QDialogButtonBox::StandardButton button)
-{
-    auto *box = dialog->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
-    QTest::mouseClick(box->button(button), Qt::LeftButton);
+    return dialog.getSkipBt() | dialog.getSkipFuel() << 1 | dialog.getSkipCan() << 2 |
+           dialog.getSkipConf() << 3 | dialog.getSkipDallas() << 4;
 }
 } // namespace
 
@@ -47,9 +25,8 @@ class TestSkipReadDataDialog : public QObject
 
 private slots:
     void form();
-    void flagsMapToBoxes_data();
-    void flagsMapToBoxes();
-    void cancelKeepsFlags();
+    void exec_data();
+    void exec();
 };
 
 void TestSkipReadDataDialog::form()
@@ -62,87 +39,58 @@ void TestSkipReadDataDialog::form()
     QCOMPARE(dialog.objectName(), QStringLiteral("SkipReadDataDialog"));
     QCOMPARE(dialog.windowTitle(), QStringLiteral("[SkipReadDataDialog]Odczyt - pomijane dane"));
     QVERIFY(dialog.isModal());
-    QCOMPARE(dialog.sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(dialog.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("lTitle"))->text(),
-             QStringLiteral("[SkipReadDataDialog]Pomiń odczyt:"));
-    const QStringList texts{"Bluetooth", "Paliwo", "CAN", "Pozostałe", "Dallas"};
-    for (int i = 0; i < boxNames.size(); ++i)
-        QCOMPARE(dialog.findChild<QCheckBox *>(boxNames[i])->text(),
-                 QStringLiteral("[SkipReadDataDialog]") + texts[i]);
+    QCOMPARE(dialog.sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
+    QStringList texts{dialog.findChild<QLabel *>(QStringLiteral("lTitle"))->text()};
+    for (const QString &name : boxNames)
+        texts << dialog.findChild<QCheckBox *>(name)->text().remove("[SkipReadDataDialog]");
+    QCOMPARE(texts, QStringList({"[SkipReadDataDialog]Pomiń odczyt:", "Bluetooth", "Paliwo", "CAN",
+                                 "Pozostałe", "Dallas"}));
 }
 
-void TestSkipReadDataDialog::flagsMapToBoxes_data()
+void TestSkipReadDataDialog::exec_data()
 {
-    QTest::addColumn<int>("flag");
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<int>("clicks"); // the boxes the user clicks
+    QTest::addColumn<int>("button"); // NoButton: the window is closed
 
     for (int i = 0; i < boxNames.size(); ++i)
-        QTest::newRow(qPrintable(boxNames[i])) << i;
+        QTest::newRow(qPrintable(boxNames[i]))
+            << (1 << i) << (1 << (i + 1) % 5) << int(QDialogButtonBox::Ok);
+    QTest::newRow("cancel") << 0b10101 << 0b11111 << int(QDialogButtonBox::Cancel);
+    QTest::newRow("window closed") << 0b10101 << 0b11111 << int(QDialogButtonBox::NoButton);
 }
 
-// Each flag of the constructor shows in its own box, and ticking only that box (from all
-// clear) and confirming sets only its getter.
-void TestSkipReadDataDialog::flagsMapToBoxes()
+// Every run shows the flags as they stand; only a confirmed run takes the boxes' values.
+void TestSkipReadDataDialog::exec()
 {
-    QFETCH(int, flag);
+    QFETCH(int, flags);
+    QFETCH(int, clicks);
+    QFETCH(int, button);
 
-    const QList<bool> flags = onlyFlag(flag);
-    SkipReadDataDialog shown(nullptr, flags[0], flags[1], flags[2], flags[3], flags[4]);
-    QList<bool> seen;
-    {
-        ModalCatcher look([&seen](QWidget *modal) {
-            seen = shownBoxes(modal);
-            clickButton(modal, QDialogButtonBox::Cancel);
+    SkipReadDataDialog dialog(nullptr, flags & 1, flags & 2, flags & 4, flags & 8, flags & 16);
+    for (int run = 0; run < 2; ++run) {
+        const int before = getters(dialog);
+        int seen = 0;
+        ModalCatcher user([&](QWidget *modal) {
+            for (int i = 0; i < boxNames.size(); ++i) {
+                auto *box = modal->findChild<QCheckBox *>(boxNames[i]);
+                seen |= box->isChecked() << i;
+                // On the indicator: a box in the field column is wider than its text.
+                if (clicks & 1 << i)
+                    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2));
+            }
+            auto *box = modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+            if (button == QDialogButtonBox::NoButton)
+                modal->close();
+            else
+                QTest::mouseClick(box->button(QDialogButtonBox::StandardButton(button)),
+                                  Qt::LeftButton);
         });
-        QCOMPARE(shown.exec(), int(QDialog::Rejected));
+        const bool accepted = button == QDialogButtonBox::Ok;
+        QCOMPARE(dialog.exec(), int(accepted ? QDialog::Accepted : QDialog::Rejected));
+        QCOMPARE(seen, before);
+        QCOMPARE(getters(dialog), accepted ? before ^ clicks : before);
     }
-    QCOMPARE(seen, flags);
-    QCOMPARE(getters(shown), flags);
-
-    SkipReadDataDialog ticked(nullptr, false, false, false, false, false);
-    ModalCatcher tick([flag](QWidget *modal) {
-        auto *box = modal->findChild<QCheckBox *>(boxNames[flag]);
-        // On the indicator: a box in the field column is wider than its text.
-        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(6, box->height() / 2));
-        clickButton(modal, QDialogButtonBox::Ok);
-    });
-    QCOMPARE(ticked.exec(), int(QDialog::Accepted));
-    QCOMPARE(getters(ticked), flags);
-}
-
-void TestSkipReadDataDialog::cancelKeepsFlags()
-{
-    SkipReadDataDialog dialog(nullptr, true, false, true, false, true);
-    const QList<bool> before{true, false, true, false, true};
-    const QList<bool> flipped{false, true, false, true, false};
-
-    QList<bool> seen;
-    auto flipAll = [&seen](QDialogButtonBox::StandardButton button) {
-        return [&seen, button](QWidget *modal) {
-            seen = shownBoxes(modal);
-            for (const QString &name : boxNames)
-                modal->findChild<QCheckBox *>(name)->click();
-            clickButton(modal, button);
-        };
-    };
-    {
-        ModalCatcher catcher(flipAll(QDialogButtonBox::Cancel));
-        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    }
-    QCOMPARE(seen, before);
-    QCOMPARE(getters(dialog), before);
-    {
-        // The cancelled run's ticks are gone: the boxes start from the flags again.
-        ModalCatcher catcher(flipAll(QDialogButtonBox::Ok));
-        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    }
-    QCOMPARE(seen, before);
-    QCOMPARE(getters(dialog), flipped);
-    {
-        ModalCatcher closeByWindow([](QWidget *modal) { modal->close(); });
-        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-    }
-    QCOMPARE(getters(dialog), flipped);
 }
 
 QTEST_MAIN(TestSkipReadDataDialog)
