@@ -62,10 +62,8 @@ private slots:
     void startsEmpty();
     void countryOperatorList_data();
     void countryOperatorList();
-    void operatorChains_data();
-    void operatorChains();
-    void countryFieldChains_data();
-    void countryFieldChains();
+    void chains_data();
+    void chains();
     void presetAndResult_data();
     void presetAndResult();
     void modalUse();
@@ -113,12 +111,9 @@ void TestCountryCode::countryOperatorList()
     const QString code = step.right(3);
     QCOMPARE(f.cbCountry->currentIndex(), f.cbCountry->findData(code.toUInt()));
     QCOMPARE(f.leCountry->text(), code);
-    QVERIFY(f.cbOperator->isEnabled());
-    QVERIFY(f.leOperator->text().isEmpty());
     const QStringList list = f.operatorRows();
     QCOMPARE(list.size(), rows);
     QCOMPARE(list.mid(0, firstRows.size()), firstRows);
-    QCOMPARE(f.cbOperator->itemData(1), QVariant(998));
 
     // A name held by two codes: its two rows twice over, one after the other. Deliberate.
     const QString t2 = QStringLiteral("(2) T-Mobile / PTC S.A.");
@@ -129,87 +124,64 @@ void TestCountryCode::countryOperatorList()
         QCOMPARE(list.filter(QStringLiteral(") Verizon Wireless")).size(), 1089);
 }
 
-void TestCountryCode::operatorChains_data()
+void TestCountryCode::chains_data()
 {
-    QTest::addColumn<QString>("country");
-    QTest::addColumn<QStringList>("steps");
-    QTest::addColumn<QString>("row");
-    QTest::addColumn<uint>("data");
-    QTest::addColumn<QString>("field");
+    QTest::addColumn<QStringList>("countrySteps");
+    QTest::addColumn<QStringList>("operatorSteps");
+    QTest::addColumn<QString>("fields"); // country field '/' network field
+    QTest::addColumn<QString>("row");    // the network row shown
+    QTest::addColumn<uint>("data");      // its code; the row is the first of that code
 
-    const auto row = [](const char *name, const QString &country, const QStringList &steps,
-                        const QString &text, uint data, const QString &field) {
-        QTest::newRow(name) << country << steps << text << data << field;
+    const auto row = [](const char *name, const QStringList &countrySteps,
+                        const QStringList &operatorSteps, const QString &fields,
+                        const QString &text, uint data) {
+        QTest::newRow(name) << countrySteps << operatorSteps << fields << text << data;
     };
     const QString unknown = QStringLiteral("Nieznany");
+    const QString all = QStringLiteral("Wszystkie");
     const QString t34 = QStringLiteral("(34) T-Mobile / PTC S.A.");
-    row("type known", "260", {"1"}, "(1) Plus / Polkomtel S.A.", 1, "1");
-    row("type repeated name", "260", {"1", "34"}, t34, 34, "34");
-    row("pick repeat gives way", "260", {"@" + t34}, t34, 34, "34");
-    row("pick all", "260", {"1", "@Wszystkie"}, "Wszystkie", 998, "*");
-    row("type 998", "260", {"1", "998"}, "Wszystkie", 998, "*");
-    row("type star", "260", {"*"}, "Wszystkie", 998, "*");
-    row("unknown code", "260", {"1", "35"}, unknown, 35, "35");
-    row("not a number", "260", {"1", "=abc"}, unknown, 0, "0");
-    row("paste 999", "260", {"1", "=999"}, unknown, 999, "");
-    row("pick unknown", "260", {"1", "@Nieznany"}, unknown, 999, "");
-    row("405/12 first by name", "405", {"12"}, "(12) Reliance Infocomm Ltd, Andhra Pradesh", 12,
-        "12");
-    row("460/0", "460", {"0"}, "(0) China Mobile", 0, "0");
-    row("unknown country", "123", {"1", "45"}, unknown, 45, "45");
-    row("unknown country 998", "123", {"998"}, unknown, 998, "998");
+    row("type known", {"260"}, {"1"}, "260/1", "(1) Plus / Polkomtel S.A.", 1);
+    row("type repeated name", {"260"}, {"1", "34"}, "260/34", t34, 34);
+    row("pick repeat gives way", {"260"}, {"@" + t34}, "260/34", t34, 34);
+    row("pick all", {"260"}, {"1", "@Wszystkie"}, "260/*", all, 998);
+    row("type 998", {"260"}, {"1", "998"}, "260/*", all, 998);
+    row("type star", {"260"}, {"*"}, "260/*", all, 998);
+    row("unknown code", {"260"}, {"1", "35"}, "260/35", unknown, 35);
+    row("not a number", {"260"}, {"1", "=abc"}, "260/0", unknown, 0);
+    row("paste 999", {"260"}, {"1", "=999"}, "260/", unknown, 999);
+    row("pick unknown", {"260"}, {"1", "@Nieznany"}, "260/", unknown, 999);
+    row("405/12 first by name", {"405"}, {"12"}, "405/12",
+        "(12) Reliance Infocomm Ltd, Andhra Pradesh", 12);
+    row("460/0", {"460"}, {"0"}, "460/0", "(0) China Mobile", 0);
+    row("unknown country", {"123"}, {"1", "45"}, "123/45", unknown, 45);
+    row("unknown country 998", {"123"}, {"998"}, "123/998", unknown, 998);
+    row("country emptied", {"#260", ""}, {}, "0/", unknown, 999);
+    row("country 999", {"999"}, {}, "999/", unknown, 999);
+    // Row 0 takes 999, the country slot empties the field, and the empty text leaves 0.
+    row("999 over known", {"#260", "=999"}, {}, "/", unknown, 999);
+    row("unknown over known", {"#260", "123"}, {}, "123/", unknown, 999);
+    row("known over unknown", {"123", "202"}, {}, "202/", unknown, 999);
+    row("row 0 keeps typed", {"77", "#202", "@Nieznany"}, {}, "77/", unknown, 999);
 }
 
-void TestCountryCode::operatorChains()
+void TestCountryCode::chains()
 {
-    QFETCH(QString, country);
-    QFETCH(QStringList, steps);
+    QFETCH(QStringList, countrySteps);
+    QFETCH(QStringList, operatorSteps);
+    QFETCH(QString, fields);
     QFETCH(QString, row);
     QFETCH(uint, data);
-    QFETCH(QString, field);
 
     Form f;
-    Form::run(f.leCountry, f.cbCountry, {country});
-    Form::run(f.leOperator, f.cbOperator, steps);
+    Form::run(f.leCountry, f.cbCountry, countrySteps);
+    Form::run(f.leOperator, f.cbOperator, operatorSteps);
+    QCOMPARE(f.leCountry->text() + '/' + f.leOperator->text(), fields);
     QCOMPARE(f.cbOperator->currentText(), row);
-    QCOMPARE(f.cbOperator->currentIndex(), f.cbOperator->findData(data)); // first of its code
-    QCOMPARE(f.leOperator->text(), field);
-    QCOMPARE(f.pbOK->isEnabled(), !field.isEmpty());
-    QCOMPARE(f.cbOperator->isEnabled(), countryTable.contains(country.toUInt()));
-    QCOMPARE(f.leCountry->text(), country);
-}
-
-void TestCountryCode::countryFieldChains_data()
-{
-    QTest::addColumn<QStringList>("steps");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<int>("row0Data");
-    QTest::addColumn<bool>("unknownRow");
-
-    QTest::newRow("emptied from known") << QStringList{"#260", ""} << "0" << 0 << true;
-    QTest::newRow("999 at row 0") << QStringList{"999"} << "999" << 999 << true;
-    // Row 0 takes 999, the country slot empties the field, and the empty text leaves 0.
-    QTest::newRow("999 over known") << QStringList{"#260", "=999"} << "" << 0 << true;
-    QTest::newRow("unknown kept") << QStringList{"#260", "123"} << "123" << 123 << true;
-    QTest::newRow("known typed") << QStringList{"123", "202"} << "202" << 20 << false;
-    QTest::newRow("row 0 keeps typed")
-        << QStringList{"77", "#202", "@Nieznany"} << "77" << 77 << true;
-}
-
-void TestCountryCode::countryFieldChains()
-{
-    QFETCH(QStringList, steps);
-    QFETCH(QString, field);
-    QFETCH(int, row0Data);
-    QFETCH(bool, unknownRow);
-
-    Form f;
-    Form::run(f.leCountry, f.cbCountry, steps);
-    QCOMPARE(f.leCountry->text(), field);
-    QCOMPARE(f.cbCountry->itemData(0).toInt(), row0Data);
-    QCOMPARE(f.cbCountry->currentIndex() == 0, unknownRow);
-    QCOMPARE(f.cbOperator->isEnabled(), !unknownRow);
-    QVERIFY(!f.pbOK->isEnabled()); // no operator yet
+    QCOMPARE(f.cbOperator->currentIndex(), f.cbOperator->findData(data));
+    QCOMPARE(f.pbOK->isEnabled(), !fields.startsWith('/') && !fields.endsWith('/'));
+    const bool known = countryTable.contains(f.leCountry->text().toUInt());
+    QCOMPARE(f.cbCountry->currentIndex() != 0, known);
+    QCOMPARE(f.cbOperator->isEnabled(), known);
 }
 
 void TestCountryCode::presetAndResult_data()
