@@ -24,10 +24,10 @@ struct Form
     static void run(QLineEdit *edit, QComboBox *box, const QStringList &steps)
     {
         for (const QString &step : steps) {
-            int row = step.startsWith('#') ? box->findData(step.mid(1).toUInt()) : box->count();
-            if (step.startsWith('@'))
-                while (--row >= 0 && box->itemText(row) != step.mid(1)) {
-                }
+            int row = step.startsWith('#') ? box->findData(step.mid(1).toUInt()) : -1;
+            for (int r = 0; step.startsWith('@') && r < box->count(); ++r)
+                if (box->itemText(r) == step.mid(1))
+                    row = r; // the last row of that text
             if (step.startsWith('@') || step.startsWith('#')) {
                 QVERIFY2(row >= 0, qPrintable("no row " + step));
                 box->setCurrentIndex(row);
