@@ -58,9 +58,6 @@ class TestBoundProtocol : public QObject
 
 private slots:
     void cleanup() { setGUILicenseLevel(0); }
-    void refreshAndHiddenFollowTheLiveRecord_data() { kinds(); }
-    void enableGateAndErrorFlag_data() { kinds(); }
-    void unboundOrNullInterfaceNeverCrashes_data() { kinds(); }
 
     void visibility_data()
     {
@@ -96,6 +93,8 @@ private slots:
         QCOMPARE(host.records[10].label, &f.label);
     }
 
+    void refreshAndHiddenFollowTheLiveRecord_data() { kinds(); }
+
     void refreshAndHiddenFollowTheLiveRecord()
     {
         QFETCH(QString, kind);
@@ -125,6 +124,8 @@ private slots:
         QVERIFY(!f.shown());
     }
 
+    void enableGateAndErrorFlag_data() { kinds(); }
+
     void enableGateAndErrorFlag()
     {
         QFETCH(QString, kind);
@@ -152,6 +153,8 @@ private slots:
             QCOMPARE(control.widget->isEnabled(), step.enabled);
         }
     }
+
+    void unboundOrNullInterfaceNeverCrashes_data() { kinds(); }
 
     void unboundOrNullInterfaceNeverCrashes()
     {
