@@ -126,6 +126,19 @@ private slots:
         QCOMPARE(sheetAtSignal, sheet("yellow"));
     }
 
+    void sameTextWritesFirstValue()
+    {
+        // Deliberate: the edit finds its entry by the shown text, so of two entries with the
+        // same text the first one's value is written whichever the user picked.
+        TestHost host;
+        host.add(10, 0, "a").options = {{0, {"x", "a"}}, {1, {"y", "b"}}, {2, {"y", "c"}}};
+        CfgComboBox combo;
+        combo.setReference(&host, 10, nullptr, {});
+        combo.setCurrentIndex(2);
+        QCOMPARE(host.writes.size(), 1);
+        QCOMPARE(host.writes[0].value, QVariant("b"));
+    }
+
     void skipGuardsAndOtherSelections()
     {
         TestHost host;

@@ -137,6 +137,22 @@ private slots:
         QCOMPARE(edit.styleSheet(), sheet);
     }
 
+    void userTyping()
+    {
+        // Real keys: the validator swallows what its type refuses, every accepted key is a
+        // write, and emptying parameter 4 writes its special value.
+        TestHost host;
+        host.add(4, 1, QVariant(7u));
+        CfgLineEdit edit;
+        edit.setReference(&host, 4, nullptr, {});
+        host.writes.clear();
+        QTest::keyClick(&edit, Qt::Key_End);
+        QTest::keyClicks(&edit, QStringLiteral("1a2"));
+        QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&edit, Qt::Key_Backspace);
+        compareWrites(host, {QVariant("71"), QVariant("712"), QVariant(0xFFFFFFFFu)});
+    }
+
     void paintingAndDisplayText()
     {
         TestHost host;
