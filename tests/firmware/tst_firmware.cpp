@@ -4,7 +4,6 @@
 #include "telecfg/firmware/firmwarekeys.h"
 #include "tests/firmware/payloads.h"
 
-#include <QTemporaryDir>
 #include <QtEndian>
 #include <QtTest>
 #include <lz4.h>
@@ -30,11 +29,6 @@ quint32 crcOf(const QByteArray &a, int from, int length)
 {
     return crc32next(0, reinterpret_cast<const unsigned char *>(a.constData()) + from,
                      quint64(length));
-}
-
-void refreshOuterChecksum(QByteArray &file)
-{
-    setLe32(file, 4, crcOf(file, 128, file.size() - 128));
 }
 
 firmware writer(unsigned compress)
@@ -112,23 +106,16 @@ class TestFirmware : public QObject
 private slots:
     void imageLayout_data();
     void imageLayout();
-    void longDateMovesTheFields();
-    void pageLimits();
-    void fileLayout_data();
-    void fileLayout();
+    void writerQuirksAndLimits();
     void compressedFilesReadBack_data();
     void compressedFilesReadBack();
-    void unboundedStreamIsRejected();
     void fileReturnCodes_data();
     void fileReturnCodes();
-    void conversionRoutes();
+    void conversionToCompressed();
     void hostileBodies_data();
     void hostileBodies();
-    void bitFlippedFilesNeverCrash();
-    void addEncodedFirmwareChecks_data();
     void addEncodedFirmwareChecks();
     void legacyWordChain();
-    void fileOperations();
 };
 
 void TestFirmware::imageLayout_data()
@@ -166,7 +153,6 @@ void TestFirmware::imageLayout()
 
     QCOMPARE(image.size(), 136 + pages * record);
     QCOMPARE(image.left(16), QByteArray("Vestramarks\0\0\0\0\0", 16));
-    QCOMPARE(fw.name, stored);
     QCOMPARE(image.mid(16, 32), stored.toLatin1().leftJustified(32, '\0'));
     QCOMPARE(image.mid(48, 20), QByteArray("2026-11-22").leftJustified(20, '\0'));
     QCOMPARE(image.mid(68, 24), user.leftJustified(24, '\0'));
@@ -190,11 +176,55 @@ void TestFirmware::imageLayout()
     QCOMPARE(pagesRead, payload + QByteArray(pages * P - size, char(0xA5)));
     QCOMPARE(le32(image, image.size() - 8), crcOf(image, 0, image.size() - 8));
     QCOMPARE(image.right(4), QByteArray("VEST"));
+
+    // The file: hardware words, checksum of the rest, form, sizes, zero-padded whole blocks.
+    QByteArray file = image;
+    QCOMPARE(firmware::crypt(file, 0x71234, -1, nullptr, compress), 0);
+    QCOMPARE(file.mid(0, 4), QByteArray::fromHex("3412ffff"));
+    QCOMPARE(le32(file, 4), crcOf(file, 128, file.size() - 128));
+    QCOMPARE(le32(file, 24), compress);
+    QCOMPARE(le32(file, 28), quint32(image.size()));
+    QCOMPARE(file.mid(128, 96), image.left(96)); // the name block stays readable
+    if (compress == 0) {
+        QCOMPARE(le32(file, 8), quint32(image.size()));
+        QCOMPARE(file.mid(128), image + QByteArray((16 - image.size() % 16) % 16, '\0'));
+        return;
+    }
+    // Length-prefixed pieces, the last one the trailer alone; the read-back test decodes them.
+    const QByteArray body = deciphered(file.mid(128), outerKey, 96);
+    quint32 total = 0;
+    int at = 128;
+    int pieces = 0;
+    for (int length; (length = quint8(body[at]) | quint8(body[at + 1]) << 8) != 0; ++pieces) {
+        total += quint32(length);
+        at += 2 + length;
+    }
+    QCOMPARE(pieces, pages + 1);
+    QCOMPARE(le32(file, 8), total);
+    QCOMPARE(body.size() - at - 2, (16 - (at + 2) % 16) % 16);
 }
 
-void TestFirmware::longDateMovesTheFields()
+void TestFirmware::writerQuirksAndLimits()
 {
     firmware fw = writer(1);
+    QByteArray out;
+    fw.addDecodedFirmware(QByteArray(240 * P + 1, 'a'));
+    QCOMPARE(fw.saveEncodedFile(out, QString()), 1);
+
+    // Reading accepts ten pages more than writing.
+    QCOMPARE(firmware::decode(QByteArray(250 * record + 8, 'p')).size(), 250 * P);
+    QVERIFY(firmware::decode(QByteArray(251 * record + 8, 'p')).isEmpty());
+
+    // The page size is process-wide: copies share it and every construction restores 2048.
+    fw.setPageSize(1000);
+    firmware copy = fw;
+    QCOMPARE(copy.encode(QByteArray(2500, 'z'), false).size(), 136 + 3 * 1008);
+    fw.setPageSize(0);
+    QVERIFY(fw.encode(QByteArray(10, 'z'), false).isEmpty());
+    QCOMPARE(imageOf(QByteArray(2500, 'z'), 1).size(), 136 + 2 * record);
+
+    // Deliberate: a long date pushes the fields after it, and the header checksum with them.
+    fw = writer(1);
     fw.setNameDate(QStringLiteral("n"), QString(50, QLatin1Char('d')));
     fw.setUserName(QStringLiteral("VTM"));
     const QByteArray image = fw.encode(QByteArray(10, 'x'), false);
@@ -202,87 +232,6 @@ void TestFirmware::longDateMovesTheFields()
     QCOMPARE(image.mid(98, 3), QByteArray("VTM"));
     QCOMPARE(le32(image, 101), crcOf(image, 0, 101));
     QCOMPARE(le32(image, 105), quint32(136 + record)); // the size block keeps its size
-}
-
-void TestFirmware::pageLimits()
-{
-    firmware fw = writer(1);
-    QVERIFY(fw.encode(QByteArray(240 * P + 1, 'a'), false).isEmpty());
-    QByteArray out("untouched");
-    fw.addDecodedFirmware(QByteArray(240 * P + 1, 'a'));
-    QCOMPARE(fw.saveEncodedFile(out, QString()), 1);
-    QCOMPARE(out, QByteArray("untouched"));
-
-    // Reading accepts ten pages more than writing.
-    QCOMPARE(firmware::decode(QByteArray(250 * record + 8, 'p')).size(), 250 * P);
-    QVERIFY(firmware::decode(QByteArray(251 * record + 8, 'p')).isEmpty());
-    QVERIFY(firmware::decode(QByteArray(record + 7, 'p')).isEmpty());
-    QVERIFY(firmware::decode(QByteArray(8, 'p')).isEmpty());
-
-    // The page size is process-wide: copies share it and every construction restores 2048.
-    fw.setPageSize(1000);
-    firmware copy = fw;
-    QCOMPARE(copy.encode(QByteArray(2500, 'z'), false).size(), 136 + 3 * 1008);
-    QCOMPARE(firmware::decode(QByteArray(2 * 1008 + 8, 'q')).size(), 2000);
-    fw.setPageSize(0);
-    QVERIFY(fw.encode(QByteArray(10, 'z'), false).isEmpty());
-    QVERIFY(firmware::decode(QByteArray(16, 'z')).isEmpty());
-    QCOMPARE(imageOf(QByteArray(2500, 'z'), 1).size(), 136 + 2 * record);
-}
-
-void TestFirmware::fileLayout_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::addColumn<unsigned>("compress");
-    QTest::addColumn<int>("padding");
-    QTest::newRow("no pages") << 0 << 0u << 8;
-    QTest::newRow("odd pages") << P << 0u << 0;
-    QTest::newRow("even pages") << 2 * P << 0u << 8;
-    QTest::newRow("compressed") << 7 * P + 99 << 1u << 0;
-}
-
-void TestFirmware::fileLayout()
-{
-    QFETCH(int, size);
-    QFETCH(unsigned, compress);
-    QFETCH(int, padding);
-    const QByteArray image = imageOf(makePayload(PayloadKind::FirmwareLike, size), compress);
-    QByteArray file = image;
-    QCOMPARE(firmware::crypt(file, 0x71234, -1, nullptr, compress), 0);
-    QCOMPARE(file.mid(0, 4), QByteArray::fromHex("3412ffff"));
-    QCOMPARE(le32(file, 4), crcOf(file, 128, file.size() - 128));
-    QCOMPARE(le32(file, 24), compress);
-    QCOMPARE(le32(file, 28), quint32(image.size()));
-    QCOMPARE(file.size() % 16, 0);
-    QCOMPARE(file.mid(128, 96), image.left(96)); // the name block stays readable
-    if (compress == 0) {
-        QCOMPARE(le32(file, 8), quint32(image.size()));
-        QCOMPARE(file.mid(128), image + QByteArray(padding, '\0'));
-        return;
-    }
-    // Walk the pieces with a stock decoder that keeps the whole history.
-    const QByteArray body = deciphered(file.mid(128), outerKey, 96);
-    LZ4_streamDecode_t stream;
-    LZ4_setStreamDecode(&stream, nullptr, 0);
-    QByteArray rebuilt = body.left(128);
-    rebuilt.reserve(image.size()); // the decoder reads its history where it wrote it
-    quint32 total = 0;
-    int at = 128;
-    int pieces = 0;
-    for (int length; (length = quint8(body[at]) | quint8(body[at + 1]) << 8) != 0; ++pieces) {
-        const int start = rebuilt.size();
-        rebuilt.resize(start + record);
-        const int n = LZ4_decompress_safe_continue(&stream, body.constData() + at + 2,
-                                                   rebuilt.data() + start, length, record);
-        QVERIFY(n > 0);
-        rebuilt.resize(start + n);
-        total += quint32(length);
-        at += 2 + length;
-    }
-    QCOMPARE(rebuilt, image);
-    QCOMPARE(pieces, 9); // eight page records and the trailer alone
-    QCOMPARE(le32(file, 8), total);
-    QCOMPARE(body.size() - at - 2, (16 - (at + 2) % 16) % 16);
 }
 
 void TestFirmware::compressedFilesReadBack_data()
@@ -308,15 +257,6 @@ void TestFirmware::compressedFilesReadBack()
     }
 }
 
-void TestFirmware::unboundedStreamIsRejected()
-{
-    // Without the dictionary limit, matches four pages back are beyond the reader's ring.
-    const QByteArray payload = makePayload(PayloadKind::FarRepeats, 12 * P);
-    QByteArray body = compressedBody(imageOf(payload, 1), false);
-    QCOMPARE(firmware::recode(body, outerKey), 2);
-    QVERIFY(body != expectedRecoded(payload));
-}
-
 void TestFirmware::fileReturnCodes_data()
 {
     QTest::addColumn<QByteArray>("file");
@@ -331,13 +271,13 @@ void TestFirmware::fileReturnCodes_data()
     const QByteArray f2 = fileOf(payload, 1);
     QByteArray badTrailer = f2;
     badTrailer[badTrailer.size() - 20] = char(badTrailer[badTrailer.size() - 20] ^ 0x40);
-    refreshOuterChecksum(badTrailer);
+    setLe32(badTrailer, 4, crcOf(badTrailer, 128, badTrailer.size() - 128));
     QByteArray badCrc = f1;
     badCrc[200] = char(badCrc[200] ^ 1);
     QByteArray tooLong = f1;
     setLe32(tooLong, 8, quint32(f1.size() + 1));
-    QByteArray negative = f1;
-    setLe32(negative, 8, 0x80000000u);
+    QByteArray exact = f1; // a stated length of the whole file is not too long
+    setLe32(exact, 8, quint32(f1.size()));
     QByteArray otherType = f1;
     setLe32(otherType, 24, 7);
     QByteArray f3 = payload;
@@ -355,13 +295,10 @@ void TestFirmware::fileReturnCodes_data()
     // hw1 is 0x1234 in every file, hw2 0x42; the caller's hw2 starts at 77.
     QTest::newRow("short") << f1.left(127) << 0x1234 << read << 1 << same << 77;
     QTest::newRow("too long") << tooLong << 9 << read << 3 << same << 77;
-    QTest::newRow("too long, cut") << tooLong.left(f1.size() - 1) << 9 << read << 3 << same << 77;
     QTest::newRow("not blocks") << f1.left(f1.size() - 8) << 9 << read << 2 << same << 77;
     QTest::newRow("bad crc") << badCrc << 0x1234 << read << 4 << same << 77;
-    QTest::newRow("bad crc, other hw") << badCrc << 9 << read << 4 << same << 0x42;
     QTest::newRow("form 1") << f1 << 0x1234 << read << 0 << f1.mid(128) << 77;
-    QTest::newRow("form 1, other hw") << f1 << 9 << read << 5 << f1.mid(128) << 0x42;
-    QTest::newRow("negative length") << negative << 0x1234 << read << 0 << negative.mid(128) << 77;
+    QTest::newRow("form 1, other hw") << exact << 9 << read << 5 << exact.mid(128) << 0x42;
     QTest::newRow("form 2") << f2 << 0x1234 << read << 0 << recoded << 77;
     QTest::newRow("form 2, other hw loses 5") << f2 << 9 << read << 0 << recoded << 0x42;
     QTest::newRow("form 2, bad trailer") << badTrailer << 0x1234 << read << 2 << QByteArray() << 77;
@@ -398,39 +335,28 @@ void TestFirmware::fileReturnCodes()
     QCOMPARE(encodedSize, checked ? le32(original, 28) : 12345u);
 }
 
-void TestFirmware::conversionRoutes()
+void TestFirmware::conversionToCompressed()
 {
     const QByteArray payload = makePayload(PayloadKind::FirmwareLike, 2 * P);
     QByteArray tagged = imageOf(payload, 0);
     firmware::crypt1(tagged, 0x1234, 0x42, outerKey);
-    int hw1 = 0;
-    int hw2 = 0;
-    QByteArray file = tagged;
-    QCOMPARE(firmware::decrypt(file, hw1, hw2, nullptr, 1), 0); // the header alone
-    QCOMPARE(file, tagged);
-    QCOMPARE(hw1, 0x1234);
-    QCOMPARE(hw2, 0x42);
     tagged.replace(24, 11, "Vestramarks");
-
-    // Every route to a compressed image: what is kept of the header, and the payload.
+    // Deliberate: the tagged route ends without the outer header, and with an odd page count
+    // the untagged route cuts the trailer and gets nothing.
     const std::tuple<QByteArray, int, QByteArray> routes[] = {
         {tagged, 0, payload},
         {fileOf(payload, 0), 128, payload},
-        // Deliberate: with an odd page count decrypt1 cuts the trailer and gets nothing.
         {fileOf(payload.left(P), 0), 128, QByteArray()},
     };
     for (const auto &[from, headerKept, expected] : routes) {
-        file = from;
-        hw2 = 5;
+        QByteArray file = from;
+        int hw1 = 0;
+        int hw2 = 5;
         unsigned encodedSize = 0;
         bool want = true;
         QCOMPARE(firmware::getFirmwareFromFile(file, hw1, hw2, pageKey, want, encodedSize, false),
                  0);
         QCOMPARE(hw2, 0x42);
-        if (headerKept) {
-            QCOMPARE(le32(file, 24), 1u);
-            QCOMPARE(file.mid(0, 4), QByteArray::fromHex("34124200"));
-        }
         QByteArray body = file.mid(headerKept);
         QCOMPARE(body.mid(68, 4), QByteArray("VTM\0", 4));
         QCOMPARE(firmware::recode(body, outerKey), 0);
@@ -446,20 +372,18 @@ void TestFirmware::hostileBodies_data()
     const QByteArray valid = fileOf(makePayload(PayloadKind::FirmwareLike, 6 * P), 1).mid(128);
     const QByteArray head = imageOf(QByteArray(), 1).left(128);
     const int six = 136 + 6 * record;
-    QTest::newRow("empty") << QByteArray() << six;
-    QTest::newRow("a few bytes") << QByteArray(50, 'x') << six;
-    QTest::newRow("headers only") << head << six;
     QTest::newRow("terminator first") << sealed(head + QByteArray(2, '\0')) << six;
     QTest::newRow("pending above the accumulator")
         << sealed(head + QByteArray::fromHex("0011") + QByteArray(64, 'a')) << six;
-    QTest::newRow("no-length markers only") << sealed(head + QByteArray(64, char(0xFF))) << six;
     QTest::newRow("length past the end")
         << sealed(head + QByteArray::fromHex("0008") + QByteArray(30, 'a')) << six;
-    QTest::newRow("garbage block")
-        << sealed(head + QByteArray::fromHex("4000") + QByteArray(64, char(0xF0))) << six;
     QTest::newRow("ends before the terminator") << valid.left(valid.size() - 48) << six;
-    QTest::newRow("cut mid-block") << valid.left(valid.size() / 2 + 5) << six;
     QTest::newRow("wrong key") << deciphered(valid, pageKey, 96) << six;
+    // The negative control of the read-back test: without the dictionary limit, matches
+    // four pages back lie beyond the reader's ring.
+    QTest::newRow("unbounded dictionary")
+        << compressedBody(imageOf(makePayload(PayloadKind::FarRepeats, 12 * P), 1), false)
+        << 136 + 12 * record;
 
     // 260 erased records compress to a few bytes each; reading stops after 250 of them.
     const QByteArray erased = QByteArray(P, char(0xFF)) + QByteArray("\0\0\0\0V001", 8);
@@ -488,53 +412,19 @@ void TestFirmware::hostileBodies()
     QVERIFY2(body.size() <= maxSize, qPrintable(QString::number(body.size())));
 }
 
-void TestFirmware::bitFlippedFilesNeverCrash()
-{
-    const QByteArray file = fileOf(makePayload(PayloadKind::FirmwareLike, 3 * P), 1);
-    for (int at = 0; at < file.size(); at += 7) {
-        QByteArray damaged = file;
-        damaged[at] = char(damaged[at] ^ (1 << (at % 8)));
-        if (at >= 8)
-            refreshOuterChecksum(damaged);
-        int hw1 = 0x1234;
-        int hw2 = 0;
-        unsigned size = 0;
-        bool want = false;
-        const int code =
-            firmware::getFirmwareFromFile(damaged, hw1, hw2, outerKey, want, size, false);
-        QVERIFY2(code >= 0 && code <= 5, qPrintable(QString::number(at)));
-        // Between the plain name block and the last block, which holds no more than the
-        // terminator and padding, every change reaches a checksum the reader compares.
-        if (at >= 128 + 96 && at < file.size() - 16)
-            QCOMPARE(code, 2);
-    }
-}
-
-void TestFirmware::addEncodedFirmwareChecks_data()
-{
-    QTest::addColumn<QByteArray>("array");
-    QTest::addColumn<int>("code");
-
-    auto sized = [](int size, quint32 stated) {
-        QByteArray a(size, 'r');
-        setLe32(a, 0, stated);
-        return a;
-    };
-    QTest::newRow("empty") << QByteArray() << -1;
-    QTest::newRow("below a record") << sized(P + 23, P + 23) << -1;
-    QTest::newRow("not whole records") << sized(P + 25, P + 25) << -1;
-    QTest::newRow("size word differs") << sized(16 + 2 * record, 7) << -2;
-    QTest::newRow("accepted, nothing decoded") << sized(16 + record, 16 + record) << 0;
-    QTest::newRow("an image") << imageOf(QByteArray(P, 'i'), 1) << -1;
-}
-
 void TestFirmware::addEncodedFirmwareChecks()
 {
-    QFETCH(QByteArray, array);
-    firmware fw;
-    fw.addDecodedFirmware(QByteArray("old payload"));
-    QTEST(fw.addEncodedFirmware(array), "code");
-    QVERIFY(fw.payload.isEmpty());
+    QByteArray accepted(16 + record, 'r');
+    setLe32(accepted, 0, 16 + record);
+    const QByteArray sizeWordDiffers(16 + 2 * record, 'r');
+    const std::pair<QByteArray, int> cases[] = {
+        {QByteArray(), -1}, {QByteArray(P + 25, 'r'), -1}, {sizeWordDiffers, -2}, {accepted, 0}};
+    for (const auto &[array, code] : cases) {
+        firmware fw;
+        fw.addDecodedFirmware(QByteArray("old payload"));
+        QCOMPARE(fw.addEncodedFirmware(array), code); // nothing is decoded here
+        QVERIFY(fw.payload.isEmpty());
+    }
 }
 
 void TestFirmware::legacyWordChain()
@@ -542,39 +432,9 @@ void TestFirmware::legacyWordChain()
     firmware fw;
     const QByteArray data = makePayload(PayloadKind::Random, 4003, 9);
     const QByteArray encoded = fw.encode_old(data);
-    QCOMPARE(encoded.size(), 4000);
     QCOMPARE(le32(encoded, 0), le32(data, 0) ^ (legacyChainSeed + legacyChainConstant));
     QCOMPARE(le32(encoded, 4), le32(data, 4) ^ (le32(encoded, 0) + legacyChainConstant));
     QCOMPARE(fw.decode_old(encoded), data.left(4000));
-}
-
-void TestFirmware::fileOperations()
-{
-    QTemporaryDir dir;
-    firmware fw = writer(1);
-    fw.addDecodedFirmware(makePayload(PayloadKind::FirmwareLike, 5000));
-    QCOMPARE(fw.saveRawFile(dir.filePath(QStringLiteral("raw.bin"))), 0);
-    firmware loaded = writer(1);
-    QCOMPARE(loaded.loadRawFile(dir.filePath(QStringLiteral("raw.bin"))), 0);
-    QCOMPARE(loaded.payload, fw.payload);
-    QCOMPARE(loaded.payloadSize, 5000);
-
-    QByteArray out("x");
-    QCOMPARE(fw.getEncodedFile(out), 0);
-    QCOMPARE(out, imageOf(fw.payload, 1));
-    QCOMPARE(fw.saveEncodedFile(out, QStringLiteral("ignored")), 0);
-    QCOMPARE(out, fileOf(fw.payload, 1));
-    // Backslashes in the path are taken for separators; a failed save removes the file.
-    const QString written = dir.path() + QStringLiteral("\\out.fw");
-    QCOMPARE(fw.saveEncodedFile(written), 0);
-    QFile file(dir.filePath(QStringLiteral("out.fw")));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), out);
-    file.close();
-    fw.addDecodedFirmware(QByteArray(240 * P + 1, 'a'));
-    QCOMPARE(fw.saveEncodedFile(written), 1);
-    QVERIFY(!file.exists());
-    QCOMPARE(fw.loadEncodedFile(dir.filePath(QStringLiteral("missing"))), -1);
 }
 
 QTEST_APPLESS_MAIN(TestFirmware)
