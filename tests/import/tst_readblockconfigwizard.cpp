@@ -9,12 +9,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
 
-using BlockStates = QMap<int, bool>;
 using Picks = QList<QPair<int, int>>; // (fuel tab, section) in the order the user picks them
 Q_DECLARE_METATYPE(Picks)
 
@@ -71,14 +69,6 @@ FileAction typeName(const QString &name)
 }
 
 const FileAction cancelFile = [](QFileDialog *dialog) { dialog->reject(); };
-Picks randomPicks()
-{
-    QRandomGenerator random(7);
-    Picks picks;
-    for (int i = 0; i < 200; ++i)
-        picks.append({random.bounded(1, 5), random.bounded(1, 5)});
-    return picks;
-}
 } // namespace
 
 class TestReadBlockConfigWizard : public QObject
@@ -112,13 +102,11 @@ private slots:
                 texts << page.next->text() << page.cancel->text() << page.fuelTabs[3]->itemText(2);
                 for (QCheckBox *box : page.boxes)
                     enabled << box->isEnabled();
-                const auto record = [&] {
-                    enabled << page.next->isEnabled() << page.labels.last()->isEnabled()
-                            << page.fuelTabs.last()->isEnabled();
-                };
-                record();
+                enabled << page.next->isEnabled() << page.labels.last()->isEnabled()
+                        << page.fuelTabs.last()->isEnabled();
                 page.tickFuel();
-                record();
+                enabled << page.next->isEnabled() << page.labels.last()->isEnabled()
+                        << page.fuelTabs.last()->isEnabled();
                 QTest::mouseClick(page.next, Qt::LeftButton);
             },
             [&](QFileDialog *dialog) {
@@ -145,16 +133,14 @@ private slots:
     void fuelPicks_data()
     {
         QTest::addColumn<Picks>("picks");
-        QTest::addColumn<QList<int>>("sections"); // empty: only the invariants are checked
+        QTest::addColumn<QList<int>>("sections");
 
-        QTest::newRow("as opened") << Picks{} << QList<int>{1, 2, 3, 4};
         QTest::newRow("tab 1 takes 3") << Picks{{1, 3}} << QList<int>{3, 2, 1, 4};
         QTest::newRow("swap back") << Picks{{2, 3}, {2, 2}} << QList<int>{1, 2, 3, 4};
         QTest::newRow("chain") << Picks{{1, 2}, {2, 4}, {3, 3}} << QList<int>{2, 4, 3, 1};
-        QTest::newRow("random") << randomPicks() << QList<int>{};
     }
 
-    // After every pick the tab holds what was picked and the tabs stay a permutation of 1 to 4.
+    // The tab that held the section picked elsewhere takes the free one: the two swap.
     void fuelPicks()
     {
         QFETCH(Picks, picks);
@@ -162,28 +148,18 @@ private slots:
 
         QWidget parent;
         ReadBlockConfigWizard wizard(QString(), &parent);
-        QStringList faults;
         QScopedPointer<ModalCatcher> user(userOf(
             [&](const BlockPage &page) {
                 page.tickFuel();
                 for (const auto &[tab, section] : picks) {
                     QComboBox *combo = page.fuelTabs.at(tab - 1);
                     combo->setCurrentIndex(combo->findData(section));
-                    QList<int> shown;
-                    for (QComboBox *tabBox : page.fuelTabs)
-                        shown << tabBox->currentData().toInt();
-                    const int picked = shown.at(tab - 1);
-                    std::sort(shown.begin(), shown.end());
-                    if (picked != section || shown != QList<int>({1, 2, 3, 4}))
-                        faults << QStringLiteral("after %1 -> %2").arg(tab).arg(section);
                 }
                 QTest::mouseClick(page.next, Qt::LeftButton);
             },
             typeName(QStringLiteral("paliwo.cfg"))));
         QCOMPARE(wizard.exec(directory.path()), 0);
-        QCOMPARE(faults, QStringList());
-        if (!sections.isEmpty())
-            QCOMPARE(wizard.getOutput().fuelSections.values(), sections);
+        QCOMPARE(wizard.getOutput().fuelSections.values(), sections);
     }
 
     void results_data()
@@ -216,26 +192,19 @@ private slots:
         QCOMPARE(wizard.exec(directory.path()), result);
 
         const ReadBlockConfigWizard::Output output = wizard.getOutput();
-        QCOMPARE(output.blockStates, (BlockStates{{0, result == 0}, {1, false}, {2, false}}));
+        QCOMPARE(output.blockStates, (QMap<int, bool>{{0, result == 0}, {1, false}, {2, false}}));
         // A name that does not exist comes back as typed, in the start directory.
         QCOMPARE(output.filePath,
                  result == 0 ? QDir(directory.path()).filePath(filePath) : filePath);
         // After 1 or 2 the dialogs and their fuel tabs are gone: nothing is read from them.
         QCOMPARE(parent.findChildren<QDialog *>().size(), result == 0 ? 2 : 0);
+        // A further run after 0 leaves the earlier dialogs to the parent.
+        if (result == 0) {
+            QCOMPARE(wizard.exec(directory.path()), 0);
+            QCOMPARE(parent.findChildren<QDialog *>().size(), 4);
+        }
         QCOMPARE(output.fuelSections.values(),
                  result == 0 ? QList<int>({1, 2, 3, 4}) : QList<int>({0, 0, 0, 0}));
-    }
-
-    // A further run after a result of 0 leaves the earlier dialogs to the parent.
-    void runsAfterSuccess()
-    {
-        QWidget parent;
-        ReadBlockConfigWizard wizard(QString(), &parent);
-        QScopedPointer<ModalCatcher> user(userOf(tickFuelAndGoOn, typeName("a.cfg")));
-        QCOMPARE(wizard.exec(directory.path()), 0);
-        QCOMPARE(wizard.exec(directory.path()), 0);
-        QCOMPARE(parent.findChildren<QDialog *>().size(), 4);
-        QCOMPARE(wizard.getOutput().fuelSections.values(), QList<int>({1, 2, 3, 4}));
     }
 };
 
