@@ -1,9 +1,7 @@
 #include "telecfg/dialogs/dualinputdlg.h"
-#include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"
 
 #include <QDialogButtonBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -18,120 +16,85 @@ class TestDualInputDlg : public QObject
     Q_OBJECT
 
 private slots:
-    void form();
-    void fields_data();
-    void fields();
-    void fieldsInOtherLocales_data();
-    void fieldsInOtherLocales();
-    void exec();
+    void fields_data()
+    {
+        QTest::addColumn<int>("field"); // first or second
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("decimals");
+        QTest::addColumn<QString>("accepts"); // with which decimal separator it is taken
+
+        QTest::newRow("2 dec: negative, point") << 1 << "-12.34" << 2 << ".";
+        QTest::newRow("2 dec: three after") << 1 << "12.345" << 2 << "";
+        QTest::newRow("2 dec: comma") << 1 << "12,34" << 2 << ",";
+        QTest::newRow("0 dec: six digits") << 1 << "123456" << 0 << ".,";
+        QTest::newRow("0 dec: seven digits") << 1 << "1234567" << 0 << "";
+        QTest::newRow("0 dec: minus") << 1 << "-1" << 0 << "";
+        QTest::newRow("second: seven digits") << 2 << "1234567" << 2 << "";
+    }
+
+    void fields()
+    {
+        QFETCH(int, decimals);
+        QFETCH(int, field);
+        QFETCH(QString, text);
+        QFETCH(QString, accepts);
+
+        // Run by fieldsInOtherLocales in a child process, which says which separator it set.
+        const QByteArray forced = qgetenv(separatorVariable);
+        const QChar decimalPoint = QLocale::system().decimalPoint();
+        if (!forced.isEmpty())
+            QCOMPARE(decimalPoint, QChar::fromLatin1(forced.at(0)));
+
+        DualInputDlg dialog(decimals);
+        auto *edit = dialog.findChild<QLineEdit *>(field == 1 ? "lineEdit" : "lineEdit_2");
+        QTest::keyClicks(edit, text);
+        QCOMPARE(edit->text() == text && edit->hasAcceptableInput(),
+                 accepts.contains(decimalPoint));
+    }
+
+    void fieldsInOtherLocales_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("decimalPoint");
+
+        QTest::newRow("Polish: comma") << "pl_PL.UTF-8" << QStringLiteral(",");
+        QTest::newRow("English: point") << "en_GB.UTF-8" << QStringLiteral(".");
+    }
+
+    void fieldsInOtherLocales()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, decimalPoint);
+
+        if (qEnvironmentVariableIsSet(separatorVariable))
+            QSKIP("already a child run");
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), locale);
+        environment.insert(QString::fromLatin1(separatorVariable), decimalPoint);
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("fields")});
+        QVERIFY(child.waitForFinished(60000));
+        QVERIFY2(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0,
+                 child.readAllStandardOutput().constData());
+    }
+
+    // The preset skips the validator and puts the cursor in the second field, which refuses
+    // letters.
+    void exec()
+    {
+        DualInputDlg dialog;
+        dialog.SetValue1(QStringLiteral("-1.25"));
+        ModalCatcher catcher([](QWidget *modal) {
+            QTest::keyClicks(modal->focusWidget(), QStringLiteral("75x"));
+            auto *box = modal->findChild<QDialogButtonBox *>();
+            QTest::mouseClick(box->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        });
+        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+        QCOMPARE(dialog.getValue1(), QStringLiteral("-1.25"));
+        QCOMPARE(dialog.getValue2(), QStringLiteral("75"));
+    }
 };
-
-void TestDualInputDlg::form()
-{
-    ContextTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    DualInputDlg dialog(2);
-    QCoreApplication::removeTranslator(&translator);
-
-    QCOMPARE(dialog.objectName(), QStringLiteral("DualInputDlg"));
-    QCOMPARE(dialog.size(), QSize(261, 115));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("[DualInputDlg]Dialog"));
-    auto *label = dialog.findChild<QLabel *>(QStringLiteral("label"));
-    QCOMPARE(label->text(), QStringLiteral("[DualInputDlg]TextLabel"));
-    dialog.setLabels(QStringLiteral("Poziom"), QStringLiteral("Pojemność"));
-    QCOMPARE(label->text(), QStringLiteral("Poziom"));
-    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("label_2"))->text(),
-             QStringLiteral("Pojemność"));
-}
-
-void TestDualInputDlg::fields_data()
-{
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("withPoint");
-    QTest::addColumn<bool>("withComma");
-
-    const QString first = QStringLiteral("lineEdit");
-    const QString second = QStringLiteral("lineEdit_2");
-    QTest::newRow("2 dec: negative, point") << 2 << first << "-12.34" << true << false;
-    QTest::newRow("2 dec: three after") << 2 << first << "12.345" << false << false;
-    QTest::newRow("2 dec: comma") << 2 << first << "12,34" << false << true;
-    QTest::newRow("2 dec: whole number") << 2 << first << "-1234567" << true << true;
-    QTest::newRow("0 dec: six digits") << 0 << first << "123456" << true << true;
-    QTest::newRow("0 dec: seven digits") << 0 << first << "1234567" << false << false;
-    QTest::newRow("0 dec: minus") << 0 << first << "-1" << false << false;
-    QTest::newRow("-3 dec: six digits") << -3 << first << "123456" << true << true;
-    QTest::newRow("second: six digits") << 2 << second << "123456" << true << true;
-    QTest::newRow("second: seven digits") << 2 << second << "1234567" << false << false;
-    QTest::newRow("second: point") << 2 << second << "1.5" << false << false;
-}
-
-void TestDualInputDlg::fields()
-{
-    QFETCH(int, decimals);
-    QFETCH(QString, field);
-    QFETCH(QString, text);
-    QFETCH(bool, withPoint);
-    QFETCH(bool, withComma);
-
-    // Run by fieldsInOtherLocales in a child process, which says which separator it set.
-    const QByteArray forced = qgetenv(separatorVariable);
-    const QChar decimalPoint = QLocale::system().decimalPoint();
-    if (!forced.isEmpty())
-        QCOMPARE(decimalPoint, QChar::fromLatin1(forced.at(0)));
-
-    DualInputDlg dialog(decimals);
-    auto *edit = dialog.findChild<QLineEdit *>(field);
-    QTest::keyClicks(edit, text);
-    QCOMPARE(edit->text() == text && edit->hasAcceptableInput(),
-             decimalPoint == QLatin1Char('.') ? withPoint : withComma);
-}
-
-void TestDualInputDlg::fieldsInOtherLocales_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("decimalPoint");
-
-    QTest::newRow("Polish: comma") << "pl_PL.UTF-8"
-                                   << ",";
-    QTest::newRow("English: point") << "en_GB.UTF-8"
-                                    << ".";
-}
-
-void TestDualInputDlg::fieldsInOtherLocales()
-{
-    QFETCH(QString, locale);
-    QFETCH(QString, decimalPoint);
-
-    if (qEnvironmentVariableIsSet(separatorVariable))
-        QSKIP("already a child run");
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), locale);
-    environment.insert(QString::fromLatin1(separatorVariable), decimalPoint);
-    child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("fields")});
-    QVERIFY(child.waitForFinished(60000));
-    QVERIFY2(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0,
-             child.readAll().constData());
-}
-
-// The preset skips the validator and puts the cursor in the second field, which refuses letters.
-void TestDualInputDlg::exec()
-{
-    DualInputDlg dialog;
-    dialog.SetValue1(QStringLiteral("-1.25"));
-    ModalCatcher catcher([](QWidget *modal) {
-        QTest::keyClicks(modal->focusWidget(), QStringLiteral("75x"));
-        auto *box = modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
-        QTest::mouseClick(box->button(QDialogButtonBox::Ok), Qt::LeftButton);
-    });
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QCOMPARE(dialog.getValue1(), QStringLiteral("-1.25"));
-    QCOMPARE(dialog.getValue2(), QStringLiteral("75"));
-}
 
 QTEST_MAIN(TestDualInputDlg)
 #include "tst_dualinputdlg.moc"

@@ -9,12 +9,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <functional>
 
-using BlockStates = QMap<int, bool>;
 using Picks = QList<QPair<int, int>>; // (fuel tab, section) in the order the user picks them
 Q_DECLARE_METATYPE(Picks)
 
@@ -32,29 +30,6 @@ struct BlockPage
                 button;
     }
     void tickFuel() const { QTest::mouseClick(boxes.at(0), Qt::LeftButton); }
-    void pick(int tab, int section) const
-    {
-        fuelTabs.at(tab - 1)->setCurrentIndex(fuelTabs.at(tab - 1)->findData(section));
-    }
-    QList<int> sections() const
-    {
-        QList<int> shown;
-        for (QComboBox *combo : fuelTabs)
-            shown << combo->currentData().toInt();
-        return shown;
-    }
-    // Whether every fuel tab and its label is enabled exactly while the fuel box is ticked.
-    bool fuelRowsFollow() const
-    {
-        QList<QWidget *> rows;
-        for (QLabel *label : labels.mid(1)) // after the prompt
-            rows << label;
-        for (QComboBox *combo : fuelTabs)
-            rows << combo;
-        return std::all_of(rows.begin(), rows.end(), [this](QWidget *row) {
-            return row->isEnabled() == boxes.at(0)->isChecked();
-        });
-    }
 
     QWidget *dialog;
     QList<QCheckBox *> boxes;
@@ -93,236 +68,145 @@ FileAction typeName(const QString &name)
     };
 }
 
-void cancelFile(QFileDialog *dialog)
-{
-    dialog->reject();
-}
-
-const BlockStates noBlocks{{0, false}, {1, false}, {2, false}};
+const FileAction cancelFile = [](QFileDialog *dialog) { dialog->reject(); };
 } // namespace
 
 class TestReadBlockConfigWizard : public QObject
 {
     Q_OBJECT
+    QTemporaryDir directory;
 
 private slots:
-    void initTestCase();
-    void dialogs();
-    void fuelPicks_data();
-    void fuelPicks();
-    void results_data();
-    void results();
-    void runsAfterSuccess_data();
-    void runsAfterSuccess();
+    void initTestCase()
+    {
+        // The toolkit's own file dialog, which a test can type into on any platform.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QVERIFY(directory.isValid());
+    }
 
-private:
-    QTemporaryDir directory;
-};
+    void dialogs()
+    {
+        ContextTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        QWidget parent;
+        ReadBlockConfigWizard wizard(QString(), &parent);
+        QStringList texts;
+        QList<bool> enabled; // the three boxes; Next and the last fuel row before and after a tick
+        QScopedPointer<ModalCatcher> user(userOf(
+            [&](const BlockPage &page) {
+                texts << page.dialog->windowTitle();
+                for (QLabel *label : page.labels)
+                    texts << label->text();
+                for (QCheckBox *box : page.boxes)
+                    texts << box->text();
+                texts << page.next->text() << page.cancel->text() << page.fuelTabs[3]->itemText(2);
+                for (QCheckBox *box : page.boxes)
+                    enabled << box->isEnabled();
+                enabled << page.next->isEnabled() << page.labels.last()->isEnabled()
+                        << page.fuelTabs.last()->isEnabled();
+                page.tickFuel();
+                enabled << page.next->isEnabled() << page.labels.last()->isEnabled()
+                        << page.fuelTabs.last()->isEnabled();
+                QTest::mouseClick(page.next, Qt::LeftButton);
+            },
+            [&](QFileDialog *dialog) {
+                texts << dialog->windowTitle() << dialog->nameFilters();
+                texts << dialog->directory().absolutePath();
+                cancelFile(dialog);
+            }));
+        const int result = wizard.exec(directory.path());
+        QCoreApplication::removeTranslator(&translator);
 
-void TestReadBlockConfigWizard::initTestCase()
-{
-    // The toolkit's own file dialog, which a test can type into on any platform.
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QVERIFY(directory.isValid());
-}
+        QCOMPARE(result, 2);
+        const QString context = QStringLiteral("[ReadBlockConfigWizard]");
+        QCOMPARE(texts.filter(context).size(), 14);
+        QCOMPARE(texts.join('|').remove(context),
+                 QStringLiteral("Import konfiguracji z pliku|Proszę wybrać bloki konfiguracji do "
+                                "importu:|Zakładka paliwo 1|Zakładka paliwo 2|Zakładka paliwo 3|"
+                                "Zakładka paliwo 4|Charakterystyka paliwa|Identyfikatory kierowców|"
+                                "Sieci dozwolone|Dalej|Anuluj|Sekcja 3|Otwórz plik z konfiguarcją|"
+                                "Konfiguracja (*.cfg)|") +
+                     QDir(directory.path()).absolutePath());
+        QCOMPARE(enabled, QList<bool>({true, false, false, false, false, false, true, true, true}));
+    }
 
-void TestReadBlockConfigWizard::dialogs()
-{
-    ContextTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    QWidget parent;
-    ReadBlockConfigWizard wizard(QString(), &parent);
-    QStringList texts;
-    QList<bool> enabled; // Next, fuel rows and the three boxes after each step
-    QList<int> sectionsAfterUntick;
-    const auto record = [&enabled](const BlockPage &page) {
-        enabled << page.next->isEnabled() << page.fuelRowsFollow();
-    };
-    QScopedPointer<ModalCatcher> user(userOf(
-        [&](const BlockPage &page) {
-            texts << page.dialog->windowTitle();
-            for (QLabel *label : page.labels)
-                texts << label->text();
-            for (QCheckBox *box : page.boxes)
-                texts << box->text();
-            texts << page.next->text() << page.cancel->text() << page.fuelTabs[3]->itemText(2);
-            for (QCheckBox *box : page.boxes)
-                enabled << box->isEnabled();
-            record(page);
-            page.tickFuel();
-            record(page);
-            page.pick(2, 4);
-            page.tickFuel();
-            record(page);
-            sectionsAfterUntick = page.sections();
-            QTest::mouseClick(page.boxes.at(1), Qt::LeftButton); // disabled: stays clear
-            record(page);
-            tickFuelAndGoOn(page);
-        },
-        [&](QFileDialog *dialog) {
-            texts << dialog->windowTitle() << dialog->nameFilters();
-            texts << dialog->directory().absolutePath();
-            enabled << parent.findChild<QDialog *>()->isHidden();
-            cancelFile(dialog);
-        }));
-    const int result = wizard.exec(directory.path());
-    QCoreApplication::removeTranslator(&translator);
+    void fuelPicks_data()
+    {
+        QTest::addColumn<Picks>("picks");
+        QTest::addColumn<QList<int>>("sections");
 
-    QCOMPARE(result, 2);
-    const QString context = QStringLiteral("[ReadBlockConfigWizard]");
-    QStringList expected{"Import konfiguracji z pliku",
-                         "Proszę wybrać bloki konfiguracji do importu:",
-                         "Zakładka paliwo 1",
-                         "Zakładka paliwo 2",
-                         "Zakładka paliwo 3",
-                         "Zakładka paliwo 4",
-                         "Charakterystyka paliwa",
-                         "Identyfikatory kierowców",
-                         "Sieci dozwolone",
-                         "Dalej",
-                         "Anuluj",
-                         "Sekcja 3",
-                         "Otwórz plik z konfiguarcją",
-                         "Konfiguracja (*.cfg)"};
-    for (QString &text : expected)
-        text.prepend(context);
-    expected << QDir(directory.path()).absolutePath();
-    QCOMPARE(texts, expected);
-    QCOMPARE(enabled, QList<bool>({true, false, false, false, true, true, true, false, true, false,
-                                   true, true}));
-    QCOMPARE(sectionsAfterUntick, QList<int>({1, 4, 3, 2}));
-}
+        QTest::newRow("tab 1 takes 3") << Picks{{1, 3}} << QList<int>{3, 2, 1, 4};
+        QTest::newRow("swap back") << Picks{{2, 3}, {2, 2}} << QList<int>{1, 2, 3, 4};
+        QTest::newRow("chain") << Picks{{1, 2}, {2, 4}, {3, 3}} << QList<int>{2, 4, 3, 1};
+    }
 
-Picks randomPicks()
-{
-    QRandomGenerator random(7);
-    Picks picks;
-    for (int i = 0; i < 200; ++i)
-        picks.append({random.bounded(1, 5), random.bounded(1, 5)});
-    return picks;
-}
+    // The tab that held the section picked elsewhere takes the free one: the two swap.
+    void fuelPicks()
+    {
+        QFETCH(Picks, picks);
+        QFETCH(QList<int>, sections);
 
-void TestReadBlockConfigWizard::fuelPicks_data()
-{
-    QTest::addColumn<Picks>("picks");
-    QTest::addColumn<QList<int>>("sections"); // empty: only the invariants are checked
-
-    QTest::newRow("as opened") << Picks{} << QList<int>{1, 2, 3, 4};
-    QTest::newRow("tab 1 takes 3") << Picks{{1, 3}} << QList<int>{3, 2, 1, 4};
-    QTest::newRow("tab 4 takes 1") << Picks{{4, 1}} << QList<int>{4, 2, 3, 1};
-    QTest::newRow("own section") << Picks{{3, 3}} << QList<int>{1, 2, 3, 4};
-    QTest::newRow("swap back") << Picks{{2, 3}, {2, 2}} << QList<int>{1, 2, 3, 4};
-    QTest::newRow("chain") << Picks{{1, 2}, {2, 4}, {3, 3}} << QList<int>{2, 4, 3, 1};
-    QTest::newRow("random") << randomPicks() << QList<int>{};
-}
-
-// After every pick the tab holds what was picked and the tabs stay a permutation of 1 to 4.
-void TestReadBlockConfigWizard::fuelPicks()
-{
-    QFETCH(Picks, picks);
-    QFETCH(QList<int>, sections);
-
-    QWidget parent;
-    ReadBlockConfigWizard wizard(QString(), &parent);
-    QStringList faults;
-    QScopedPointer<ModalCatcher> user(userOf(
-        [&](const BlockPage &page) {
-            page.tickFuel();
-            for (const auto &pick : picks) {
-                page.pick(pick.first, pick.second);
-                QList<int> shown = page.sections();
-                std::sort(shown.begin(), shown.end());
-                if (page.sections().at(pick.first - 1) != pick.second ||
-                    shown != QList<int>({1, 2, 3, 4}))
-                    faults << QStringLiteral("after %1 -> %2").arg(pick.first).arg(pick.second);
-            }
-            QTest::mouseClick(page.next, Qt::LeftButton);
-        },
-        typeName(QStringLiteral("paliwo.cfg"))));
-    QCOMPARE(wizard.exec(directory.path()), 0);
-    QCOMPARE(faults, QStringList());
-    if (!sections.isEmpty())
+        QWidget parent;
+        ReadBlockConfigWizard wizard(QString(), &parent);
+        QScopedPointer<ModalCatcher> user(userOf(
+            [&](const BlockPage &page) {
+                page.tickFuel();
+                for (const auto &[tab, section] : picks) {
+                    QComboBox *combo = page.fuelTabs.at(tab - 1);
+                    combo->setCurrentIndex(combo->findData(section));
+                }
+                QTest::mouseClick(page.next, Qt::LeftButton);
+            },
+            typeName(QStringLiteral("paliwo.cfg"))));
+        QCOMPARE(wizard.exec(directory.path()), 0);
         QCOMPARE(wizard.getOutput().fuelSections.values(), sections);
-}
-
-void TestReadBlockConfigWizard::results_data()
-{
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("filePath");
-
-    QTest::newRow("file chosen") << 0 << "nowy.cfg";
-    QTest::newRow("file cancelled") << 2 << "";
-    QTest::newRow("blocks closed") << 1 << "start.cfg";
-}
-
-// The user ticks fuel and takes "nowy.cfg" (0), cancels the file dialog (2) or closes the
-// block choice (1).
-void TestReadBlockConfigWizard::results()
-{
-    QFETCH(int, result);
-    QFETCH(QString, filePath);
-
-    QWidget parent;
-    ReadBlockConfigWizard wizard(QStringLiteral("start.cfg"), &parent);
-    QScopedPointer<ModalCatcher> user(userOf(
-        [result](const BlockPage &page) {
-            if (result == 1)
-                page.dialog->close();
-            else
-                tickFuelAndGoOn(page);
-        },
-        result == 0 ? typeName(QStringLiteral("nowy.cfg")) : FileAction(cancelFile)));
-    QCOMPARE(wizard.exec(directory.path()), result);
-
-    const ReadBlockConfigWizard::Output output = wizard.getOutput();
-    QCOMPARE(output.blockStates, (BlockStates{{0, result == 0}, {1, false}, {2, false}}));
-    // A name that does not exist comes back as typed, in the start directory.
-    QCOMPARE(output.filePath, result == 0 ? QDir(directory.path()).filePath(filePath) : filePath);
-    // After 1 or 2 the dialogs and their fuel tabs are gone: nothing is read from them.
-    const QList<QDialog *> left = parent.findChildren<QDialog *>();
-    QCOMPARE(left.size(), result == 0 ? 2 : 0);
-    for (QDialog *dialog : left)
-        QVERIFY(dialog->isHidden());
-    QCOMPARE(output.fuelSections.values(),
-             result == 0 ? QList<int>({1, 2, 3, 4}) : QList<int>({0, 0, 0, 0}));
-}
-
-void TestReadBlockConfigWizard::runsAfterSuccess_data()
-{
-    QTest::addColumn<bool>("withParent");
-    QTest::newRow("with a parent") << true;
-    QTest::newRow("without a parent") << false;
-}
-
-// A further run after a result of 0 leaves the earlier dialogs to the parent; a cancelled
-// run after a successful one forgets the earlier path and choices.
-void TestReadBlockConfigWizard::runsAfterSuccess()
-{
-    QFETCH(bool, withParent);
-
-    QWidget parent;
-    auto *wizard =
-        new ReadBlockConfigWizard(QStringLiteral("a.cfg"), withParent ? &parent : nullptr);
-    QCOMPARE(wizard->getOutput().filePath, QStringLiteral("a.cfg"));
-    QCOMPARE(wizard->getOutput().fuelSections.values(), QList<int>({0, 0, 0, 0}));
-    {
-        QScopedPointer<ModalCatcher> user(userOf(tickFuelAndGoOn, typeName("a.cfg")));
-        QCOMPARE(wizard->exec(directory.path()), 0);
-        QCOMPARE(wizard->exec(directory.path()), 0);
     }
-    if (withParent)
-        QCOMPARE(parent.findChildren<QDialog *>().size(), 4);
+
+    void results_data()
     {
-        QScopedPointer<ModalCatcher> user(
-            userOf([](const BlockPage &page) { page.cancel->click(); }, cancelFile));
-        QCOMPARE(wizard->exec(directory.path()), 1);
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("filePath");
+
+        QTest::newRow("file chosen") << 0 << "nowy.cfg";
+        QTest::newRow("file cancelled") << 2 << "";
+        QTest::newRow("blocks closed") << 1 << "start.cfg";
     }
-    QCOMPARE(wizard->getOutput().filePath, QString());
-    QCOMPARE(wizard->getOutput().blockStates, noBlocks);
-    if (withParent)
-        QCOMPARE(parent.findChildren<QDialog *>().size(), 3); // the second run's block choice stays
-    delete wizard;
-}
+
+    // The user ticks fuel and takes "nowy.cfg" (0), cancels the file dialog (2) or closes the
+    // block choice (1).
+    void results()
+    {
+        QFETCH(int, result);
+        QFETCH(QString, filePath);
+
+        QWidget parent;
+        ReadBlockConfigWizard wizard(QStringLiteral("start.cfg"), &parent);
+        QScopedPointer<ModalCatcher> user(userOf(
+            [result](const BlockPage &page) {
+                if (result == 1)
+                    page.dialog->close();
+                else
+                    tickFuelAndGoOn(page);
+            },
+            result == 0 ? typeName(QStringLiteral("nowy.cfg")) : cancelFile));
+        QCOMPARE(wizard.exec(directory.path()), result);
+
+        const ReadBlockConfigWizard::Output output = wizard.getOutput();
+        QCOMPARE(output.blockStates, (QMap<int, bool>{{0, result == 0}, {1, false}, {2, false}}));
+        // A name that does not exist comes back as typed, in the start directory.
+        QCOMPARE(output.filePath,
+                 result == 0 ? QDir(directory.path()).filePath(filePath) : filePath);
+        // After 1 or 2 the dialogs and their fuel tabs are gone: nothing is read from them.
+        QCOMPARE(parent.findChildren<QDialog *>().size(), result == 0 ? 2 : 0);
+        // A further run after 0 leaves the earlier dialogs to the parent.
+        if (result == 0) {
+            QCOMPARE(wizard.exec(directory.path()), 0);
+            QCOMPARE(parent.findChildren<QDialog *>().size(), 4);
+        }
+        QCOMPARE(output.fuelSections.values(),
+                 result == 0 ? QList<int>({1, 2, 3, 4}) : QList<int>({0, 0, 0, 0}));
+    }
+};
 
 QTEST_MAIN(TestReadBlockConfigWizard)
 #include "tst_readblockconfigwizard.moc"
