@@ -1,6 +1,5 @@
 #include "telecfg/dialogs/statuslabel.h"
 
-#include <QElapsedTimer>
 #include <QtTest>
 
 namespace {
@@ -68,13 +67,13 @@ private slots:
         QFETCH(int, expectedMs);
 
         StatusLabel label;
-        QElapsedTimer clock;
-        clock.start();
         label.setValue(QStringLiteral("on"), StatusLabel::StateGreen, true, durationMs);
-        // Coarse timers may fire up to 5% early; an ended highlight keeps the state's colour.
+        // Halfway between the two durations only the shorter highlight has ended; no upper
+        // bound on time, so a loaded machine cannot fail it.
+        QTest::qWait(1200);
+        QCOMPARE(label.styleSheet() == resting + green, expectedMs < 1200);
+        // An ended highlight keeps the state's colour.
         QTRY_COMPARE_WITH_TIMEOUT(label.styleSheet(), resting + green, expectedMs + 3000);
-        QVERIFY(clock.elapsed() >= expectedMs * 95 / 100);
-        QVERIFY(clock.elapsed() < expectedMs + 1400);
 
         // A resting change stops the timer: a host's own style set later stays.
         label.setValue(QStringLiteral("1"), StatusLabel::StateOrange, true, 100);
