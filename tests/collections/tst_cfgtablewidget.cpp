@@ -25,20 +25,10 @@ QVariant table(const QStringList &columns)
     return QVariant::fromValue(value);
 }
 
-// The columns last handed to the host, written as for table().
-QStringList written(const TestHost &host)
+// The columns last handed to the host, written as for table() (empty: nothing written).
+QVariant written(const TestHost &host)
 {
-    ColumnVectors value;
-    for (const TestHost::Write &write : host.writes)
-        value = qvariant_cast<ColumnVectors>(write.value);
-    QStringList columns;
-    for (const QVector<QByteArray> &column : value) {
-        QStringList places;
-        for (const QByteArray &place : column)
-            places << QString::fromLatin1(place);
-        columns << places.join('|');
-    }
-    return columns;
+    return host.writes.isEmpty() ? QVariant() : host.writes.last().value;
 }
 
 // The grid as the user sees it: one string per row, cells joined by '|', "-" for no cell.
@@ -110,17 +100,11 @@ void TestCfgTableWidget::binding_data()
     QTest::newRow("no filled columns") << table({"1", "10"}) << 0 << 2 << 1 << two << Grid{};
     // Deliberate: a free place before a used one leaves the used row past the row count.
     QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << 2 << 2 << two << Grid{"-|"};
-    QTest::newRow("more filled than shown")
-        << table({"1", "10", "x"}) << 3 << 2 << 1 << two << Grid{"1|10"};
     // Wrong shapes show what fits, and nothing done on them afterwards crashes.
     QTest::newRow("short column") << table({"1|2", "10"}) << 2 << 2 << 2 << two
                                   << Grid{"1|10", "2|-"};
-    QTest::newRow("fewer columns than filled")
-        << table({"1|2"}) << 3 << 2 << 2 << two << Grid{"1|-", "2|-"};
     QTest::newRow("wrong container")
         << QVariant::fromValue(QVector<quint32>{1}) << 2 << 2 << 1 << two << Grid{};
-    QTest::newRow("negative capacity")
-        << table({"1|2", "10|20"}) << 2 << 2 << -1 << two << Grid{"1|10", "2|20"};
     QTest::newRow("capacity 0") << table({"1", "10"}) << 2 << 2 << 0 << two << Grid{};
 }
 
@@ -160,7 +144,6 @@ void TestCfgTableWidget::addRow_data()
     QTest::addColumn<QStringList>("after"); // empty: nothing written
 
     const QVariant row3 = QStringList{"3", "30"};
-    const QStringList one{"1|", "10|"};
     const QStringList two{"1|2|", "10|20|"};
     QTest::newRow("first free place") << two << 3 << row3 << 0 << Grid{"1|10", "2|20", "3|30"}
                                       << QStringList{"1|2|3", "10|20|30"};
@@ -171,18 +154,10 @@ void TestCfgTableWidget::addRow_data()
                           << QStringList{"1|2", "10|20"};
     QTest::newRow("duplicate in a later column") << two << 3 << QVariant(QStringList{"20", "5"})
                                                  << 1 << Grid{"1|10", "2|20"} << QStringList{};
-    QTest::newRow("more strings than columns")
-        << two << 3 << QVariant(QStringList{"3", "30", "300"}) << 0 << Grid{"1|10", "2|20", "3|30"}
-        << QStringList{"1|2|3", "10|20|30"};
-    QTest::newRow("capacity 1") << QStringList{"", ""} << 1 << row3 << 0 << Grid{"3|30"}
-                                << QStringList{"3", "30"};
-    QTest::newRow("capacity above the column")
-        << QStringList{"1", "10"} << 5 << row3 << 0 << Grid{"1|10"} << QStringList{"1", "10"};
     QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << row3 << 0 << Grid{}
                                 << QStringList{"", ""};
-    QTest::newRow("empty list") << one << 2 << QVariant(QStringList{}) << 0 << Grid{"1|10"}
-                                << QStringList{};
-    QTest::newRow("invalid") << one << 2 << QVariant() << 0 << Grid{"1|10"} << QStringList{};
+    QTest::newRow("invalid") << QStringList{"1|", "10|"} << 2 << QVariant() << 0 << Grid{"1|10"}
+                             << QStringList{};
 }
 
 void TestCfgTableWidget::addRow()
@@ -198,7 +173,7 @@ void TestCfgTableWidget::addRow()
     ModalCatcher catcher;
     QCOMPARE(b.table.addValue(input, ref), result);
     QCOMPARE(gridOf(b.table), grid);
-    QCOMPARE(written(b.host), after);
+    QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
     QCOMPARE(catcher.seen.size(), result);
     if (result) {
         QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Nowy element"));
@@ -242,7 +217,7 @@ void TestCfgTableWidget::editCheck()
     const QRect rect = b.table.visualItemRect(b.table.item(row, column));
     QVERIFY(collectiontest::editInPlace(b.table, rect, typed));
     QCOMPARE(gridOf(b.table), grid);
-    QCOMPARE(written(b.host), after);
+    QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
     QCOMPARE(catcher.seen.size(), message.isEmpty() ? 0 : 1);
     if (!message.isEmpty()) {
         QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Edycja elementu"));
@@ -273,8 +248,6 @@ void TestCfgTableWidget::remove_data()
     QTest::newRow("place beyond column count")
         << QStringList{"1|2|3", "10|20|30"} << QVariantList{QByteArray("3")}
         << QList<QPoint>{{0, 2}} << Grid{"1|10", "2|20"} << QStringList{"1|2|", "10|20|"} << 1;
-    QTest::newRow("nothing selected")
-        << two << none << QList<QPoint>{} << Grid{"1|10", "2|20"} << QStringList{} << 0;
 }
 
 void TestCfgTableWidget::remove()
@@ -292,7 +265,7 @@ void TestCfgTableWidget::remove()
     QVERIFY(b.table.remove(ref));
     QCOMPARE(gridOf(b.table), grid);
     QCOMPARE(b.host.writes.size(), writes);
-    QCOMPARE(written(b.host), after);
+    QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
     if (writes != 2)
         return;
     QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#a0a0a4"));
@@ -304,7 +277,7 @@ void TestCfgTableWidget::remove()
     QVERIFY(b.host.writes.isEmpty());
     QCOMPARE(b.table.addValue(QVariant(QStringList{"1", "11"}), ref), 0);
     QCOMPARE(gridOf(b.table), (Grid{"1|11", "2|20"}));
-    QCOMPARE(written(b.host), (QStringList{"1|2", "11|20"}));
+    QCOMPARE(b.host.writes.last().value, table({"1|2", "11|20"}));
     QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#ffffff"));
 }
 
@@ -316,19 +289,10 @@ void TestCfgTableWidget::cellWidgetChange()
     spin.setProperty("col", 1);
     QObject::connect(&spin, SIGNAL(valueChanged(int)), &b.table, SLOT(changed(int)));
     spin.setValue(42);
-    QCOMPARE(written(b.host), (QStringList{"1|2", "10|42"}));
+    QCOMPARE(b.host.writes.last().value, table({"1|2", "10|42"}));
     QCOMPARE(b.table.item(1, 1)->data(Qt::UserRole).toInt(), 42);
     b.table.updateControl(0);
     QCOMPARE(colourOf(b.table.item(1, 1)), QStringLiteral("#a0a0a4"));
-
-    // A sender outside the table, or without the properties, changes nothing.
-    b.host.writes.clear();
-    spin.setProperty("row", -1);
-    spin.setValue(43);
-    spin.setProperty("row", QVariant());
-    spin.setValue(44);
-    b.table.changed(45);
-    QVERIFY(b.host.writes.isEmpty());
 }
 
 void TestCfgTableWidget::paintingStopsAtMissingCell()
