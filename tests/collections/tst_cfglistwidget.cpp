@@ -74,8 +74,6 @@ private slots:
     void operations();
     void restoreFoldsRemovedItems();
     void painting();
-    void editInPlace_data();
-    void editInPlace();
     void neverCrash_data();
     void neverCrash();
 };
@@ -94,7 +92,8 @@ void TestCfgListWidget::operations_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QVariantList>("stored");
     QTest::addColumn<QVariant>("names");
-    QTest::addColumn<QString>("op"); // "" binding only, "add", "remove" (row 0), "all"
+    // "" binding only, "add", "remove" (row 0), "all", "edit" or "edit removed" (row 0)
+    QTest::addColumn<QString>("op");
     QTest::addColumn<QVariant>("input");
     QTest::addColumn<int>("result");
     QTest::addColumn<QString>("items");
@@ -125,6 +124,13 @@ void TestCfgListWidget::operations_data()
                                  << vec<quint16>({5, 6}) << 1;
     QTest::newRow("add, duplicate") << 13 << vec<QString>({"a", ""}) << no << none << "add"
                                     << QVariant("a") << 1 << "a@0" << vec<QString>({"a", ""}) << 0;
+    // A present element never changes in place: the edit goes back and stores the same.
+    QTest::newRow("edit") << 13 << vec<QString>({"a", "b", ""}) << no << none << "edit"
+                          << QVariant("z") << 0 << "a@0|b@1" << vec<QString>({"a", "b", ""}) << 1;
+    // A removed item edited to a new text comes back with it.
+    QTest::newRow("edit removed") << 24 << vec<quint32>({55, 66, 0}) << QVariantList{55u} << none
+                                  << "edit removed" << QVariant("17") << 0 << "17@0|66@1"
+                                  << vec<quint32>({17, 66, 0}) << 2;
     // An element cleared by an earlier item is not written back by a later kept one.
     QTest::newRow("remove all, 8") << 8 << vec<quint16>({1, 2}) << QVariantList{2} << none << "all"
                                    << none << 1 << "2@~1" << vec<quint16>({0, 0}) << 2;
@@ -154,18 +160,27 @@ void TestCfgListWidget::operations()
     Bound b(type, value, op == "remove" || op == "all" ? 2 : 3, stored, names);
     b.host.modifiedItemsOf[ref] = {1};
     b.list.setReference(&b.host, ref, nullptr, {}); // again: nothing doubled
+    if (op.startsWith("edit")) {
+        b.list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&b.list));
+    }
     ModalCatcher catcher;
     if (op == "add")
         QCOMPARE(b.list.addValue(input, ref), result);
-    if (op == "remove")
+    if (op == "remove" || op == "edit removed")
         b.list.item(0)->setSelected(true);
     if (op == "remove" || op == "all")
         QCOMPARE(op == "all" ? b.list.removeAll(ref) : b.list.remove(ref), bool(result));
+    if (op == "edit removed")
+        b.list.remove(ref);
+    const QRect first = b.list.count() ? b.list.visualItemRect(b.list.item(0)) : QRect();
+    if (op.startsWith("edit"))
+        QVERIFY(collectiontest::editInPlace(b.list, first, input.toString()));
     QCOMPARE(itemsOf(b.list), items);
     QCOMPARE(b.host.records[ref].value, after);
     QCOMPARE(b.host.writes.size(), writes);
+    QCOMPARE(catcher.seen.size(), op == "add" ? result : 0);
     if (op == "add" && result == 1) {
-        QCOMPARE(catcher.seen.size(), 1);
         QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Nowy element"));
         QCOMPARE(catcher.seen.at(0).text, QStringLiteral("Identyfikator jest już używany"));
     } else if (op == "add") {
@@ -202,47 +217,6 @@ void TestCfgListWidget::painting()
     b.list.updateControl(7);
     QCOMPARE(paintOf(b.list),
              "#ff0000 Nieprawidłowy element|#ffff00 Zmodyfikowany element|" + white + '|' + grey);
-}
-
-void TestCfgListWidget::editInPlace_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("removeFirst");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("items");
-    QTest::addColumn<QVariant>("after");
-
-    // A present element never changes in place: the edit goes back and stores the same.
-    const QVariant value = vec<QString>({"a", "b", ""});
-    QTest::newRow("present") << 13 << value << false << "z"
-                             << "a@0|b@1" << value;
-    // A removed item edited to a new text comes back with it.
-    QTest::newRow("removed") << 24 << vec<quint32>({55, 66, 0}) << true << "17"
-                             << "17@0|66@1" << vec<quint32>({17, 66, 0});
-}
-
-void TestCfgListWidget::editInPlace()
-{
-    QFETCH(int, type);
-    QFETCH(QVariant, value);
-    QFETCH(bool, removeFirst);
-    QFETCH(QString, typed);
-    QFETCH(QString, items);
-    QFETCH(QVariant, after);
-
-    Bound b(type, value, 3, {55u});
-    b.list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&b.list));
-    if (removeFirst) {
-        b.list.item(0)->setSelected(true);
-        b.list.remove(ref);
-    }
-    ModalCatcher catcher;
-    QVERIFY(collectiontest::editInPlace(b.list, b.list.visualItemRect(b.list.item(0)), typed));
-    QCOMPARE(itemsOf(b.list), items);
-    QCOMPARE(b.host.records[ref].value, after);
-    QVERIFY(catcher.seen.isEmpty());
 }
 
 void TestCfgListWidget::neverCrash_data()

@@ -73,10 +73,8 @@ class TestCfgTableWidget : public QObject
 private slots:
     void binding_data();
     void binding();
-    void addRow_data();
-    void addRow();
-    void editCheck_data();
-    void editCheck();
+    void addAndEdit_data();
+    void addAndEdit();
     void remove_data();
     void remove();
     void cellWidgetChange();
@@ -134,93 +132,71 @@ void TestCfgTableWidget::binding()
     b.table.updateControl(0);
 }
 
-void TestCfgTableWidget::addRow_data()
+void TestCfgTableWidget::addAndEdit_data()
 {
     QTest::addColumn<QStringList>("value");
     QTest::addColumn<int>("capacity");
+    QTest::addColumn<QPoint>("cell"); // (column, row) edited in place; (-1, -1): an add
     QTest::addColumn<QVariant>("input");
-    QTest::addColumn<int>("result"); // 1: refused with a message
     QTest::addColumn<Grid>("grid");
     QTest::addColumn<QStringList>("after"); // empty: nothing written
+    QTest::addColumn<QString>("message");
 
+    const QPoint add(-1, -1);
     const QVariant row3 = QStringList{"3", "30"};
-    const QStringList two{"1|2|", "10|20|"};
-    QTest::newRow("first free place") << two << 3 << row3 << 0 << Grid{"1|10", "2|20", "3|30"}
-                                      << QStringList{"1|2|3", "10|20|30"};
+    const QStringList two{"1|2", "10|20"};
+    const QStringList three{"1|2|", "10|20|"};
+    const Grid same{"1|10", "2|20"};
+    QTest::newRow("first free place") << three << 3 << add << row3 << Grid{"1|10", "2|20", "3|30"}
+                                      << QStringList{"1|2|3", "10|20|30"} << "";
     // Deliberate: while place 1 is empty every add takes place 0.
-    QTest::newRow("place 1 empty") << QStringList{"1||", "10||"} << 3 << row3 << 0
-                                   << Grid{"3|30", "-|-"} << QStringList{"3||", "30||"};
-    QTest::newRow("full") << QStringList{"1|2", "10|20"} << 2 << row3 << 0 << Grid{"1|10", "2|20"}
-                          << QStringList{"1|2", "10|20"};
-    QTest::newRow("duplicate in a later column") << two << 3 << QVariant(QStringList{"20", "5"})
-                                                 << 1 << Grid{"1|10", "2|20"} << QStringList{};
-    QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << row3 << 0 << Grid{}
-                                << QStringList{"", ""};
-    QTest::newRow("invalid") << QStringList{"1|", "10|"} << 2 << QVariant() << 0 << Grid{"1|10"}
-                             << QStringList{};
+    QTest::newRow("place 1 empty") << QStringList{"1||", "10||"} << 3 << add << row3
+                                   << Grid{"3|30", "-|-"} << QStringList{"3||", "30||"} << "";
+    QTest::newRow("full") << two << 2 << add << row3 << same << two << "";
+    QTest::newRow("duplicate in a later column")
+        << three << 3 << add << QVariant(QStringList{"20", "5"}) << same << QStringList{}
+        << "Identyfikator jest już używany";
+    QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << add << row3 << Grid{}
+                                << QStringList{"", ""} << "";
+    QTest::newRow("invalid") << QStringList{"1|", "10|"} << 2 << add << QVariant() << Grid{"1|10"}
+                             << QStringList{} << "";
+    QTest::newRow("edit") << two << 2 << QPoint(1, 1) << QVariant("25") << Grid{"1|10", "2|25"}
+                          << QStringList{"1|2", "10|25"} << "";
+    QTest::newRow("edit, unchanged text stores again")
+        << two << 2 << QPoint(0, 0) << QVariant("1") << same << two << "";
+    QTest::newRow("edit, text of another column")
+        << two << 2 << QPoint(1, 0) << QVariant("2") << same << QStringList{}
+        << "Identyfikator jest już używany";
+    QTest::newRow("edit, emptied later column")
+        << two << 2 << QPoint(1, 1) << QVariant("") << same << QStringList{}
+        << "Identyfikator nie może być pusty";
 }
 
-void TestCfgTableWidget::addRow()
+void TestCfgTableWidget::addAndEdit()
 {
     QFETCH(QStringList, value);
     QFETCH(int, capacity);
+    QFETCH(QPoint, cell);
     QFETCH(QVariant, input);
-    QFETCH(int, result);
-    QFETCH(Grid, grid);
-    QFETCH(QStringList, after);
-
-    Bound b(table(value), capacity);
-    ModalCatcher catcher;
-    QCOMPARE(b.table.addValue(input, ref), result);
-    QCOMPARE(gridOf(b.table), grid);
-    QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
-    QCOMPARE(catcher.seen.size(), result);
-    if (result) {
-        QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Nowy element"));
-        QCOMPARE(catcher.seen.at(0).text, QStringLiteral("Identyfikator jest już używany"));
-    }
-}
-
-void TestCfgTableWidget::editCheck_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<Grid>("grid");
-    QTest::addColumn<QStringList>("after"); // empty: refused, nothing written
-    QTest::addColumn<QString>("message");
-
-    const Grid same{"1|10", "2|20"};
-    QTest::newRow("new text") << 1 << 1 << "25" << Grid{"1|10", "2|25"}
-                              << QStringList{"1|2", "10|25"} << "";
-    QTest::newRow("unchanged text stores again")
-        << 0 << 0 << "1" << same << QStringList{"1|2", "10|20"} << "";
-    QTest::newRow("text of another column")
-        << 0 << 1 << "2" << same << QStringList{} << "Identyfikator jest już używany";
-    QTest::newRow("emptied later column")
-        << 1 << 1 << "" << same << QStringList{} << "Identyfikator nie może być pusty";
-}
-
-void TestCfgTableWidget::editCheck()
-{
-    QFETCH(int, row);
-    QFETCH(int, column);
-    QFETCH(QString, typed);
     QFETCH(Grid, grid);
     QFETCH(QStringList, after);
     QFETCH(QString, message);
 
-    Bound b(table({"1|2", "10|20"}), 2);
-    b.table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&b.table));
+    Bound b(table(value), capacity);
     ModalCatcher catcher;
-    const QRect rect = b.table.visualItemRect(b.table.item(row, column));
-    QVERIFY(collectiontest::editInPlace(b.table, rect, typed));
+    if (cell.x() < 0) {
+        QCOMPARE(b.table.addValue(input, ref), message.isEmpty() ? 0 : 1);
+    } else {
+        b.table.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&b.table));
+        const QRect rect = b.table.visualItemRect(b.table.item(cell.y(), cell.x()));
+        QVERIFY(collectiontest::editInPlace(b.table, rect, input.toString()));
+    }
     QCOMPARE(gridOf(b.table), grid);
     QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
     QCOMPARE(catcher.seen.size(), message.isEmpty() ? 0 : 1);
     if (!message.isEmpty()) {
-        QCOMPARE(catcher.seen.at(0).title, QStringLiteral("Edycja elementu"));
+        QCOMPARE(catcher.seen.at(0).title, cell.x() < 0 ? "Nowy element" : "Edycja elementu");
         QCOMPARE(catcher.seen.at(0).text, message);
     }
 }
