@@ -3,7 +3,6 @@
 #include "tests/collections/collectiontest.h"
 #include "tests/support/modalcatcher.h"
 
-#include <QSpinBox>
 #include <QtTest>
 
 using namespace collectiontest;
@@ -77,7 +76,6 @@ private slots:
     void addAndEdit();
     void remove_data();
     void remove();
-    void cellWidgetChange();
     void paintingStopsAtMissingCell();
 };
 
@@ -95,7 +93,6 @@ void TestCfgTableWidget::binding_data()
                               << Grid{"1|10", "2|20"};
     QTest::newRow("generated titles") << table({"1", "10", "x", "y"}) << 4 << 4 << 1
                                       << "Poziom|Objętość|Kolumna 3|Kolumna 4" << Grid{"1|10|x|y"};
-    QTest::newRow("no filled columns") << table({"1", "10"}) << 0 << 2 << 1 << two << Grid{};
     // Deliberate: a free place before a used one leaves the used row past the row count.
     QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << 2 << 2 << two << Grid{"-|"};
     // Wrong shapes show what fits, and nothing done on them afterwards crashes.
@@ -162,8 +159,6 @@ void TestCfgTableWidget::addAndEdit_data()
                              << QStringList{} << "";
     QTest::newRow("edit") << two << 2 << QPoint(1, 1) << QVariant("25") << Grid{"1|10", "2|25"}
                           << QStringList{"1|2", "10|25"} << "";
-    QTest::newRow("edit, unchanged text stores again")
-        << two << 2 << QPoint(0, 0) << QVariant("1") << same << two << "";
     QTest::newRow("edit, text of another column")
         << two << 2 << QPoint(1, 0) << QVariant("2") << same << QStringList{}
         << "Identyfikator jest już używany";
@@ -215,8 +210,6 @@ void TestCfgTableWidget::remove_data()
     const QStringList gone{"|2", "|20"};
     QTest::newRow("stored row greys") << two << QVariantList{QByteArray("1")}
                                       << QList<QPoint>{{1, 0}} << Grid{"1|10", "2|20"} << gone << 2;
-    QTest::newRow("unstored row goes")
-        << two << none << QList<QPoint>{{0, 0}} << Grid{"2|20"} << gone << 1;
     // Several cells of one row: the row goes once, its other cells are skipped.
     QTest::newRow("whole row selected")
         << two << none << QList<QPoint>{{0, 0}, {1, 0}} << Grid{"2|20"} << gone << 1;
@@ -255,20 +248,6 @@ void TestCfgTableWidget::remove()
     QCOMPARE(gridOf(b.table), (Grid{"1|11", "2|20"}));
     QCOMPARE(b.host.writes.last().value, table({"1|2", "11|20"}));
     QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#ffffff"));
-}
-
-void TestCfgTableWidget::cellWidgetChange()
-{
-    Bound b(table({"1|2", "10|20"}), 2);
-    QSpinBox spin;
-    spin.setProperty("row", 1);
-    spin.setProperty("col", 1);
-    QObject::connect(&spin, SIGNAL(valueChanged(int)), &b.table, SLOT(changed(int)));
-    spin.setValue(42);
-    QCOMPARE(b.host.writes.last().value, table({"1|2", "10|42"}));
-    QCOMPARE(b.table.item(1, 1)->data(Qt::UserRole).toInt(), 42);
-    b.table.updateControl(0);
-    QCOMPARE(colourOf(b.table.item(1, 1)), QStringLiteral("#a0a0a4"));
 }
 
 void TestCfgTableWidget::paintingStopsAtMissingCell()
