@@ -82,37 +82,32 @@ private slots:
 void TestCfgTableWidget::binding_data()
 {
     QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("filled");
-    QTest::addColumn<int>("shown");
     QTest::addColumn<int>("capacity");
     QTest::addColumn<QString>("titles");
     QTest::addColumn<Grid>("grid");
 
     const QString two = QStringLiteral("Poziom|Objętość");
-    QTest::newRow("two rows") << table({"1|2|", "10|20|"}) << 2 << 2 << 3 << two
-                              << Grid{"1|10", "2|20"};
-    QTest::newRow("generated titles") << table({"1", "10", "x", "y"}) << 4 << 4 << 1
+    QTest::newRow("two rows") << table({"1|2|", "10|20|"}) << 3 << two << Grid{"1|10", "2|20"};
+    QTest::newRow("generated titles") << table({"1", "10", "x", "y"}) << 1
                                       << "Poziom|Objętość|Kolumna 3|Kolumna 4" << Grid{"1|10|x|y"};
     // Deliberate: a free place before a used one leaves the used row past the row count.
-    QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << 2 << 2 << two << Grid{"-|"};
+    QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << two << Grid{"-|"};
     // Wrong shapes show what fits, and nothing done on them afterwards crashes.
-    QTest::newRow("short column") << table({"1|2", "10"}) << 2 << 2 << 2 << two
-                                  << Grid{"1|10", "2|-"};
+    QTest::newRow("short column") << table({"1|2", "10"}) << 2 << two << Grid{"1|10", "2|-"};
     QTest::newRow("wrong container")
-        << QVariant::fromValue(QVector<quint32>{1}) << 2 << 2 << 1 << two << Grid{};
-    QTest::newRow("capacity 0") << table({"1", "10"}) << 2 << 2 << 0 << two << Grid{};
+        << QVariant::fromValue(QVector<quint32>{1}) << 1 << two << Grid{};
+    QTest::newRow("capacity 0") << table({"1", "10"}) << 0 << two << Grid{};
 }
 
 void TestCfgTableWidget::binding()
 {
     QFETCH(QVariant, value);
-    QFETCH(int, filled);
-    QFETCH(int, shown);
+    const int columns = qMax(2, qvariant_cast<ColumnVectors>(value).size()); // shown, filled
     QFETCH(int, capacity);
     QFETCH(QString, titles);
     QFETCH(Grid, grid);
 
-    Bound b(value, capacity, {QByteArray("1")}, shown, filled);
+    Bound b(value, capacity, {QByteArray("1")}, columns, columns);
     b.table.setRowCount(5);
     b.table.setReference(&b.host, ref, nullptr, {}); // the old rows go
     QStringList headers;
