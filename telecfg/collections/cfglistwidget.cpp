@@ -94,24 +94,9 @@ QByteArray CfgListWidget::convertData(const QByteArray &data, int mode)
 bool CfgListWidget::isItemExists(QVariant value, int &index)
 {
     const QString text = value.toString();
-    const QList<QListWidgetItem *> items = findItems(text, Qt::MatchExactly);
     index = -1;
-    for (QListWidgetItem *item : items) {
-        const quint32 data = item->data(Qt::UserRole).toUInt();
-        index = int(data);
-        // The text under edit is never a clash, even where a present element has it.
-        if (text == editText) {
-            index = int(data & ~liveFlag);
-            return false;
-        }
-        if (data & liveFlag) {
-            index = int(data & ~liveFlag);
-            return true;
-        }
-    }
-    return false;
+    return findPresentElement(findItems(text, Qt::MatchExactly), text, editText, -1, index);
 }
-
 int CfgListWidget::addValue(QVariant value, int ref)
 {
     if (!bound.iface)

@@ -134,21 +134,7 @@ void CfgTableWidget::setValue(QVariant value)
 bool CfgTableWidget::searchItems(const QList<QTableWidgetItem *> &items, const QString &text,
                                  int exclude, int &index)
 {
-    for (QTableWidgetItem *cell : items) {
-        const quint32 data = cell->data(Qt::UserRole).toUInt();
-        index = int(data);
-        if (exclude != -1 && index == exclude)
-            continue;
-        if (text == editText) {
-            index = int(data & ~liveFlag);
-            return false;
-        }
-        if (data & liveFlag) {
-            index = int(data & ~liveFlag);
-            return true;
-        }
-    }
-    return false;
+    return findPresentElement(items, text, editText, exclude, index);
 }
 
 bool CfgTableWidget::isItemExists(QVariant value, int &index)

@@ -81,3 +81,28 @@ private:
     QSet<int> invalid;
     QSet<int> modified;
 };
+
+// The search both editors make for an element by its shown text, over the items found with
+// that text, in the order found. `index` ends as the place of the last item looked at. The
+// text under edit is never a clash, even where a present element has it; `exclude` skips
+// the item data equal to it (-1: none).
+template <class Item>
+bool findPresentElement(const QList<Item *> &items, const QString &text, const QString &editText,
+                        int exclude, int &index)
+{
+    for (Item *item : items) {
+        const quint32 data = item->data(Qt::UserRole).toUInt();
+        index = int(data);
+        if (exclude != -1 && index == exclude)
+            continue;
+        if (text == editText) {
+            index = int(data & ~liveFlag);
+            return false;
+        }
+        if (data & liveFlag) {
+            index = int(data & ~liveFlag);
+            return true;
+        }
+    }
+    return false;
+}
