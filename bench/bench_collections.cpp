@@ -20,10 +20,13 @@ struct ShownList
     TestHost host;
     CfgListWidget list;
 
-    explicit ShownList(const QVector<QByteArray> &value)
+    // The offscreen pointer rests at the screen's top left corner; `underPointer` puts the
+    // list there, otherwise it stands away from it, as when the user clicks an add button.
+    explicit ShownList(const QVector<QByteArray> &value, bool underPointer = false)
     {
         host.add(ref, 20, QVariant::fromValue(value)).capacity = places;
         list.resize(260, 200);
+        list.move(underPointer ? QPoint(0, 0) : QPoint(400, 300));
         list.show();
         if (!QTest::qWaitForWindowExposed(&list))
             qFatal("the list was not shown");
@@ -55,9 +58,9 @@ BENCHMARK(BM_ListBindAndRepaint)->Unit(benchmark::kMillisecond);
 // Fills an empty list of 1000 places, one add after another; `eventsEachAdd` processes the
 // events after each add as the host's main loop would, otherwise once at the end (the list's
 // own share of the work).
-void fillList(benchmark::State &state, bool eventsEachAdd)
+void fillList(benchmark::State &state, bool eventsEachAdd, bool underPointer = false)
 {
-    ShownList shown{QVector<QByteArray>(places)};
+    ShownList shown{QVector<QByteArray>(places), underPointer};
     QVector<QString> inputs;
     for (int i = 0; i < places; ++i)
         inputs << QString::fromLatin1(identifier(i));
@@ -85,6 +88,14 @@ void BM_ListThousandAdds(benchmark::State &state)
     fillList(state, true);
 }
 BENCHMARK(BM_ListThousandAdds)->Unit(benchmark::kMillisecond);
+
+// With the pointer resting over the list, each add scrolls another row under it, which is
+// painted anew.
+void BM_ListThousandAddsUnderPointer(benchmark::State &state)
+{
+    fillList(state, true, true);
+}
+BENCHMARK(BM_ListThousandAddsUnderPointer)->Unit(benchmark::kMillisecond);
 
 void BM_ListThousandAddsEventsOnce(benchmark::State &state)
 {

@@ -1,10 +1,13 @@
 #include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cachingitemdelegate_p.h"
 #include "telecfg/collections/elementkind_p.h"
 #include "telecfg/collections/elementstate_p.h"
+#include "telecfg/collections/listwatch_p.h"
 #include "telecfg/collections/valuetypes.h"
 
 #include <QLineEdit>
 #include <QMessageBox>
+#include <optional>
 
 namespace {
 QListWidgetItem *newItem(const QString &text)
@@ -20,12 +23,23 @@ QVariant placeData(int place, bool live)
 }
 } // namespace
 
-CfgListWidget::CfgListWidget(QWidget *parent) : QListWidget(parent)
+struct CfgListWidget::Tracking
+{
+    explicit Tracking(QListWidget *list) : watch(list) {}
+
+    ListWatch watch;
+    std::optional<ElementPainter> lastPainter;
+};
+
+CfgListWidget::CfgListWidget(QWidget *parent)
+    : QListWidget(parent), tracking(std::make_unique<Tracking>(this))
 {
     registerCollectionTypes();
     // Items are single lines of text: the view then lays out an add without measuring
     // every item again.
     setUniformItemSizes(true);
+    // Adding an item repaints every visible row; rows that look as before are copied.
+    setItemDelegate(new CachingItemDelegate(this));
     connect(itemDelegate(), SIGNAL(commitData(QWidget *)), this,
             SLOT(ListWidgetEditCommit(QWidget *)));
     connect(itemDelegate(), SIGNAL(closeEditor(QWidget *, QAbstractItemDelegate::EndEditHint)),
@@ -66,8 +80,22 @@ void CfgListWidget::updateControl(int hardwareId)
     if (!bound.refreshVisibility(this, hardwareId))
         return;
     const ElementPainter painter(bound.iface, bound.reference);
-    for (int row = 0; row < count(); ++row)
-        painter.paint(item(row));
+    // Painting an item again in the same state changes nothing; only the items the model
+    // reported changed need it, as long as the host's lists and the texts stay as they were.
+    const ListWatch::Dirty dirty = tracking->watch.takeDirty();
+    const bool everything =
+        dirty.everything || !tracking->lastPainter || !(*tracking->lastPainter == painter);
+    tracking->watch.painting = true;
+    if (everything) {
+        for (int row = 0; row < count(); ++row)
+            painter.paint(item(row));
+    } else {
+        for (int row : dirty.rows)
+            if (QListWidgetItem *changed = item(row))
+                painter.paint(changed);
+    }
+    tracking->watch.painting = false;
+    tracking->lastPainter = painter;
 }
 
 void CfgListWidget::inputMode(int mode)
@@ -95,6 +123,8 @@ bool CfgListWidget::isItemExists(QVariant value, int &index)
 {
     const QString text = value.toString();
     index = -1;
+    if (!tracking->watch.mayShow(text))
+        return false; // what findItems would tell, without going through every item
     return findPresentElement(findItems(text, Qt::MatchExactly), text, editText, -1, index);
 }
 int CfgListWidget::addValue(QVariant value, int ref)

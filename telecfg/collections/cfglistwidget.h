@@ -5,6 +5,7 @@
 
 #include <QAbstractItemDelegate>
 #include <QListWidget>
+#include <memory>
 
 struct ElementContext;
 
@@ -59,4 +60,8 @@ private:
     BoundControl bound;
     QString editText;
     int inputModeValue = 1;
+    // What the last repaint painted from and what changed since, so a repaint after an add
+    // does not go through every item.
+    struct Tracking;
+    std::unique_ptr<Tracking> tracking;
 };

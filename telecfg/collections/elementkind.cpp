@@ -252,8 +252,11 @@ private:
         Vector elements = read(vector);
         if (!inside(elements, place))
             return QVariant();
-        elements[place] = element;
-        vector = QVariant::fromValue(elements);
+        // Writing an equal element would only copy the whole vector.
+        if (!(elements.at(place) == element)) {
+            elements[place] = element;
+            vector = QVariant::fromValue(elements);
+        }
         return Row::variant(element);
     }
 };

@@ -6,6 +6,8 @@
 #include <QBrush>
 #include <QCoreApplication>
 #include <QSet>
+#include <algorithm>
+#include <iterator>
 
 // The four states an element's item is painted in, shared by the list and the table.
 enum class ElementState { Removed, Invalid, Modified, Existing };
@@ -33,6 +35,12 @@ public:
     {
         item->setData(Qt::BackgroundRole, brushes[int(state)]);
         item->setToolTip(toolTips[int(state)]);
+    }
+
+    // Brushes never change; tool tips do with the language.
+    bool operator==(const StateLook &other) const
+    {
+        return std::equal(std::begin(toolTips), std::end(toolTips), std::begin(other.toolTips));
     }
 
 private:
@@ -74,6 +82,12 @@ public:
     template <class Item> void paint(Item *item) const
     {
         look.paint(item, stateOf(item->data(Qt::UserRole).toUInt()));
+    }
+
+    // Paints every item as the other painter would.
+    bool operator==(const ElementPainter &other) const
+    {
+        return invalid == other.invalid && modified == other.modified && look == other.look;
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "tests/collections/collectiontest.h"
+#include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"
 
 #include <QtTest>
@@ -73,6 +74,8 @@ private slots:
     void operations_data();
     void operations();
     void greyItems();
+    void outsideChanges_data();
+    void outsideChanges();
     void neverCrash_data();
     void neverCrash();
 };
@@ -204,6 +207,54 @@ void TestCfgListWidget::greyItems()
     QCOMPARE(itemsOf(b.list), QStringLiteral("3@2|8@1"));
     QCOMPARE(b.host.records[ref].value, vec<quint32>({0, 8, 3}));
     QCOMPARE(paintOf(b.list), "#ff0000 Nieprawidłowy element|#ffff00 Zmodyfikowany element");
+}
+
+// A repaint and a search follow what others did to the items and the host's answers, not
+// only what the list did itself.
+void TestCfgListWidget::outsideChanges_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("paint");
+    QTest::addColumn<int>("addSeven"); // what adding 7 then returns
+
+    const QString red = QStringLiteral("#ff0000 Nieprawidłowy element");
+    QTest::newRow("host's lists") << "invalid" << white + '|' + red + '|' + white << 0;
+    QTest::newRow("brush by host") << "brush" << white + '|' + white + '|' + white << 0;
+    QTest::newRow("place by host") << "place" << white + '|' + white + '|' + grey << 0;
+    QTest::newRow("text by host") << "text" << white + '|' + white + '|' + white << 1;
+    QTest::newRow("language") << "language"
+                              << "#ffffff [CfgListWidget]Istniejący element|#ffffff "
+                                 "[CfgListWidget]Istniejący element|#ffffff "
+                                 "[CfgListWidget]Istniejący element"
+                              << 0;
+}
+
+void TestCfgListWidget::outsideChanges()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, paint);
+    QFETCH(int, addSeven);
+
+    Bound b(24, vec<quint32>({1, 2, 3, 0}), 4);
+    b.list.updateControl(0);
+    int index = -1;
+    QVERIFY(b.list.isItemExists(QVariant(2u), index));
+    ContextTranslator translator;
+    if (change == "invalid")
+        b.host.invalidItemsOf[ref] = {1};
+    else if (change == "brush")
+        b.list.item(1)->setBackground(Qt::blue);
+    else if (change == "place")
+        b.list.item(2)->setData(Qt::UserRole, 2u);
+    else if (change == "text")
+        b.list.item(1)->setText("7");
+    else if (change == "language")
+        QCoreApplication::installTranslator(&translator);
+    b.list.updateControl(0);
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(paintOf(b.list), paint);
+    ModalCatcher catcher;
+    QCOMPARE(b.list.addValue(QVariant(7u), ref), addSeven);
 }
 
 void TestCfgListWidget::neverCrash_data()
