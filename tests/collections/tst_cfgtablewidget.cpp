@@ -127,7 +127,9 @@ void TestCfgTableWidget::addEditRemove_data()
     QTest::addColumn<QStringList>("value");
     QTest::addColumn<int>("capacity");
     QTest::addColumn<QVariantList>("stored");
-    QTest::addColumn<QPoint>("cell");    // (column, row) edited or removed; (-1, -1): an add
+    // (column, row) edited or removed; (-1, -1): an add; (-1, row): an add while the first
+    // cell of that row is current
+    QTest::addColumn<QPoint>("cell");
     QTest::addColumn<QVariant>("input"); // "remove" the cell, "remove row" its whole row
     QTest::addColumn<Grid>("grid");
     QTest::addColumn<QStringList>("after"); // empty: nothing written
@@ -153,6 +155,10 @@ void TestCfgTableWidget::addEditRemove_data()
                                 << QStringList{"", ""} << "";
     QTest::newRow("invalid") << QStringList{"1|", "10|"} << 2 << no << add << QVariant()
                              << Grid{"1|10"} << QStringList{} << "";
+    // The edit check that ends every add stores the current cell again.
+    QTest::newRow("invalid, a cell current")
+        << QStringList{"1|", "10|"} << 2 << no << QPoint(-1, 0) << QVariant() << Grid{"1|10"}
+        << QStringList{"1|", "10|"} << "";
     QTest::newRow("edit") << two << 2 << no << QPoint(1, 1) << QVariant("25")
                           << Grid{"1|10", "2|25"} << QStringList{"1|2", "10|25"} << "";
     QTest::newRow("edit, text of another column")
@@ -188,6 +194,8 @@ void TestCfgTableWidget::addEditRemove()
     Bound b(table(value), capacity, stored);
     ModalCatcher catcher;
     if (cell.x() < 0) {
+        if (cell.y() >= 0)
+            b.table.setCurrentCell(cell.y(), 0);
         QCOMPARE(b.table.addValue(input, ref), message.isEmpty() ? 0 : 1);
     } else if (input.toString().startsWith("remove")) {
         b.table.item(cell.y(), cell.x())->setSelected(true);
