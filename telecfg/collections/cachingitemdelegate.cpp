@@ -7,8 +7,9 @@
 #include <iterator>
 
 namespace {
-// About two hundred rows of a list as wide as a dialog.
-constexpr int keptBytes = 4 * 1024 * 1024;
+// Rows kept: as many bytes as two viewports' worth of pixels, so a repaint after a scroll
+// by a screen still finds its rows, and memory stays in proportion to what is shown.
+constexpr int viewportsKept = 2;
 
 // The viewport's background when the kept pixmaps can stand on it: an opaque solid brush
 // that the viewport fills itself with. A no-brush otherwise.
@@ -69,7 +70,7 @@ private:
 } // namespace
 
 CachingItemDelegate::CachingItemDelegate(QAbstractItemView *view)
-    : QStyledItemDelegate(view), pixmaps(keptBytes)
+    : QStyledItemDelegate(view), pixmaps(0)
 {
     auto *invalidator = new Invalidator(pixmaps, this);
     view->installEventFilter(invalidator);
@@ -118,6 +119,8 @@ void CachingItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
         QStyledItemDelegate::paint(&render, local, index);
     }
     painter->drawPixmap(option.rect.topLeft(), *pixmap);
+    const QSize shown = item.widget->size() * look.pixelRatio;
+    pixmaps.setMaxCost(qMax(pixmaps.maxCost(), viewportsKept * shown.width() * shown.height() * 4));
     pixmaps.insert(look, pixmap, qMax(1, pixmap->width() * pixmap->height() * 4));
 }
 
