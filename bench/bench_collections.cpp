@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The collection list as a host uses it: binding and painting a long list, and filling one
 // element after another with the user interface running between the adds.
 #include "bench/qtbenchmark.h"

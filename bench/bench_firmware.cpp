@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // Firmware files: packing and reading a 240-page image through the library, beside the
 // real work alone on the same bytes (LZ4 with the same stream settings, AES-128-ECB over
 // what the format enciphers, the library's checksums over what it checksums), and every

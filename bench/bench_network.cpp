@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The start-up cost of the network table (constructing GUI fills it) and the speed of turning
 // mobile network ids into names, as a list of networks does for every element it shows.
 #include "telecfg/dialogs/gui.h"

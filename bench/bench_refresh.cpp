@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // Refreshing a form of 1000 bound controls, beside the toolkit's own widget mapper
 // reverting 1000 line edits from a model: what a host pays to bring a form up to date.
 #include "bench/qtbenchmark.h"

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 # Warnings are errors in telecfg's own targets only; nothing here reaches a host.
 function(telecfg_warnings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Werror)

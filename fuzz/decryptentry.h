@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // The readers of whole-file forms share their fuzz entry: the first byte asks for the header

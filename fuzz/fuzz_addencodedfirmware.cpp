@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The encoded-image loader of the firmware object.
 #include "telecfg/firmware/firmware.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The page splitter; the first byte chooses the page size, which need not be 2048.
 #include "telecfg/firmware/firmware.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The reader of fully enciphered and tagged files.
 #include "fuzz/decryptentry.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The reader of uncompressed files with enciphered pages.
 #include "fuzz/decryptentry.h"
 

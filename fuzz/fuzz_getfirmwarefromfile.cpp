@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The whole file reader: the first byte chooses the caller's flags, the rest is the file.
 #include "telecfg/firmware/checksums.h"
 #include "telecfg/firmware/firmware.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The compressed body reader, fed bodies as they stand after the outer header.
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/firmware/firmwarekeys.h"

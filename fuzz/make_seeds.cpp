@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // Writes the seed corpus of every fuzz target, made by the library's own writer:
 //   fuzz_seeds DIR   ->   DIR/<target>/<seed>
 #include "telecfg/firmware/firmware.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // Runs a fuzz target's entry over every file in the directories given, without libFuzzer:
 // the corpus stays a regression test in builds made by any compiler. A directory that does
 // not exist is skipped; no input at all is a failure.

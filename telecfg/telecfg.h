@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Everything telecfg offers its hosts, in one include.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "demowindow.h"
 #include "demotable.h"
 #include "devicemenu.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // telecfg-demo: a small configurator over a sample device table, showing every bound
 // control of the library at work.
 #include "demotable.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/network/countrytable.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "telecfg/config/mainconfig.h"

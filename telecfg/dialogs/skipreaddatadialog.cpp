@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/skipreaddatadialog.h"
 #include "ui_skipreaddatadialog.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "telecfg/network/countrytable.h"
 #include "telecfg/network/countrytable_data_p.h"
 

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The list's kept item pixmaps must show exactly what the stock item painting draws, in every
 // state an item can be shown in, and after the view's look changes.
 #include "telecfg/collections/cachingitemdelegate_p.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "tests/collections/collectiontest.h"

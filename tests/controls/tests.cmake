@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 # The line edit's patterns and the decimal spin box follow the system locale, which the
 # toolkit reads from the environment at start-up: run their suites under a point locale
 # and again under a comma one.

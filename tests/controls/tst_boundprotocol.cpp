@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The protocol every bound control shares, run over every kind of control.
 #include "telecfg/dialogs/gui.h"
 #include "tests/support/anycontrol.h"

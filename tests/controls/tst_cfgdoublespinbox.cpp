@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // The control reads numbers through the system locale, which the toolkit takes from the
 // environment at start-up: CTest runs this suite with a point locale and with a comma one.
 #include "telecfg/controls/cfgdoublespinbox.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // Decimal patterns follow the system locale, which the toolkit reads from the environment
 // at start-up: CTest runs this suite once with a point locale and once with a comma one.
 #include "telecfg/controls/cfglineedit.h"

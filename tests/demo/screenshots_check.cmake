@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 file(REMOVE_RECURSE ${OUT})
 execute_process(COMMAND ${DEMO} --screenshot ${OUT} RESULT_VARIABLE rc OUTPUT_VARIABLE out
     ERROR_VARIABLE err)

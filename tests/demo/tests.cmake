@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 # The demo configurator renders every page of its sample table, and refuses a broken table.
 if(TARGET telecfg-demo)
     add_test(NAME demo_screenshots

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/cmddialog.h"
 #include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 # Runs the built telecfg-fw on files it wrote itself: every form packs, reads back, verifies
 # and unpacks to the payload, and every failure kind leaves with its own exit status.
 # Called with -DTOOL=... -DWORK_DIR=...

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // Payloads that look like what goes into firmware images, shared by the firmware tests,

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 #include "telecfg/firmware/blockcipher_p.h"
 #include "telecfg/firmware/checksums.h"
 #include "telecfg/firmware/firmware.h"

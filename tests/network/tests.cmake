@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 # The table's source file is generated from its data; this keeps the two from drifting apart.
 # To update the table: edit telecfg/network/data/e212-operators.tsv, then
 #   cmake --build --preset default --target update-countrytable

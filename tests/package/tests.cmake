@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The telecfg authors
+# SPDX-License-Identifier: MIT
 # Packaging cannot rot silently: install the built tree and build a host against it with
 # find_package (and pkg-config), and take telecfg in with add_subdirectory as hosts may.
 add_test(NAME package_consumer

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
 // A tiny host: binds a check box to its own one-record table through the installed library.
 #include <telecfg/telecfg.h>
 
