@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cachingitemdelegate_p.h"
+#include "telecfg/collections/criticalbox_p.h"
 #include "telecfg/collections/elementkind_p.h"
 #include "telecfg/collections/elementstate_p.h"
 #include "telecfg/collections/listwatch_p.h"
 #include "telecfg/collections/valuetypes.h"
 
 #include <QLineEdit>
-#include <QMessageBox>
 #include <optional>
 
 namespace {
@@ -135,8 +135,7 @@ int CfgListWidget::addValue(QVariant value, int ref)
         return 0;
     int index = -1;
     if (isItemExists(value, index)) {
-        QMessageBox::critical(this, tr("Nowy element"), tr("Identyfikator jest już używany"),
-                              QMessageBox::Ok, QMessageBox::NoButton);
+        showCriticalBox(this, tr("Nowy element"), tr("Identyfikator jest już używany"));
         return 1;
     }
     if (value.isValid()) {
@@ -288,7 +287,10 @@ void CfgListWidget::ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::En
         const QString text = currentItem()->text();
         const QVariant value =
             type == 13 || type == 20 ? QVariant(text) : QVariant(text.toUInt(nullptr, 10));
+        const QPointer<CfgListWidget> alive(this);
         addValue(value, bound.reference);
+        if (!alive)
+            return; // the host deleted the list while its message was open
     }
     updateControl(0);
 }

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/collections/criticalbox_p.h"
 #include "telecfg/collections/elementstate_p.h"
 #include "telecfg/collections/valuetypes.h"
-
-#include <QMessageBox>
 
 namespace {
 // Entry `place` of column `column`, or null where the value has no such entry.
@@ -161,8 +160,7 @@ bool CfgTableWidget::isItemExists(QString value, int &index)
 
 int CfgTableWidget::refuseDuplicate()
 {
-    QMessageBox::critical(this, tr("Nowy element"), tr("Identyfikator jest już używany"),
-                          QMessageBox::Ok, QMessageBox::NoButton);
+    showCriticalBox(this, tr("Nowy element"), tr("Identyfikator jest już używany"));
     return 1;
 }
 
@@ -290,18 +288,18 @@ void CfgTableWidget::ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEdit
     if (QTableWidgetItem *current = currentItem()) {
         const QString text = current->text();
         int index = -1;
+        const QPointer<CfgTableWidget> alive(this);
         if (text.isEmpty()) {
             current->setText(editText);
-            QMessageBox::critical(this, tr("Edycja elementu"),
-                                  tr("Identyfikator nie może być pusty"), QMessageBox::Ok,
-                                  QMessageBox::NoButton);
+            showCriticalBox(this, tr("Edycja elementu"), tr("Identyfikator nie może być pusty"));
         } else if (isItemExists(text, index)) {
             current->setText(editText);
-            QMessageBox::critical(this, tr("Edycja elementu"), tr("Identyfikator jest już używany"),
-                                  QMessageBox::Ok, QMessageBox::NoButton);
+            showCriticalBox(this, tr("Edycja elementu"), tr("Identyfikator jest już używany"));
         } else {
             addValue(text, bound.reference);
         }
+        if (!alive)
+            return; // the host deleted the table while its message was open
     }
     updateControl(0);
 }

@@ -10,7 +10,10 @@ bool BoundControl::bind(MainConfigIFace *boundIface, int ref, const QList<QWidge
 {
     iface = boundIface;
     reference = boundIface ? ref : 0;
-    relatedWidgets = related;
+    relatedWidgets.clear();
+    for (QWidget *widget : related)
+        if (widget)
+            relatedWidgets.append(widget);
     error = false;
     return iface != nullptr;
 }
@@ -47,8 +50,9 @@ bool BoundControl::refreshVisibility(QWidget *self, int id)
         return false;
     const bool hide = isHiddenNow(id);
     self->setVisible(!hide);
-    for (QWidget *widget : qAsConst(relatedWidgets))
-        widget->setVisible(!hide);
+    for (const QPointer<QWidget> &widget : qAsConst(relatedWidgets))
+        if (widget)
+            widget->setVisible(!hide);
     return true;
 }
 

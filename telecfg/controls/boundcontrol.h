@@ -5,9 +5,10 @@
 #include "telecfg/config/mainconfig.h"
 
 #include <QList>
+#include <QPointer>
+#include <QWidget>
 
 class QString;
-class QWidget;
 
 // Internal to the library: installed only because the controls hold it by value.
 //
@@ -22,7 +23,9 @@ public:
     MainConfigIFace *iface = nullptr;
     int reference = 0;
     bool enableState = true;
-    QList<QWidget *> relatedWidgets;
+    // Guarded like the toolkit's own widget mappers guard their widgets: the host may delete
+    // a related widget (or pass none) and the control must go on without it.
+    QList<QPointer<QWidget>> relatedWidgets;
     int hardwareId = 0;
     bool error = false;
 

@@ -7,6 +7,7 @@
 #include "telecfg/firmware/firmwarekeys.h"
 
 #include <QFile>
+#include <QSaveFile>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
@@ -170,6 +171,17 @@ QByteArray readWholeFile(const QString &path)
     const QByteArray content = file.readAll();
     file.close();
     return content;
+}
+
+// Written beside the target and renamed over it only once complete: a write that fails
+// (a full disk, a path that cannot be made) leaves the earlier file as it was.
+bool writeWholeFile(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(path);
+    // The explicit flush matters: an error of the flush that commit makes itself goes
+    // unnoticed, and a cut-off file would replace the earlier one.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+           file.flush() && file.commit();
 }
 
 // Re-packs raw firmware as a compressed file under the built-in outer key.
@@ -343,9 +355,7 @@ int firmware::saveEncodedFile(QString path)
         return 1;
     }
     // Deliberate: a file that cannot be written still reports 0.
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(out);
+    writeWholeFile(path, out);
     return 0;
 }
 
@@ -366,9 +376,7 @@ int firmware::loadRawFile(QString path)
 int firmware::saveRawFile(QString path)
 {
     // Deliberate: a file that cannot be written still reports 0.
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(payload);
+    writeWholeFile(path, payload);
     return 0;
 }
 

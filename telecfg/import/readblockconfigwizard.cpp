@@ -46,15 +46,24 @@ ReadBlockConfigWizard::~ReadBlockConfigWizard()
 
 int ReadBlockConfigWizard::exec(const QString &directory)
 {
+    // The wizard is its parent's child: a host that deletes the parent while a dialog is
+    // open deletes the wizard too, and nothing of it may be touched after exec returns.
+    const QPointer<ReadBlockConfigWizard> alive(this);
     createBlockConfigChoseDialog();
-    if (blockDialog->exec() != QDialog::Accepted || !blockDialog) {
+    const int chosen = blockDialog->exec();
+    if (!alive)
+        return 1;
+    if (chosen != QDialog::Accepted || !blockDialog) {
         clear();
         return 1;
     }
     setBlockStateList();
 
     createFileDialog(directory);
-    if (fileDialog->exec() != QDialog::Accepted || !fileDialog) {
+    const int opened = fileDialog->exec();
+    if (!alive)
+        return 2;
+    if (opened != QDialog::Accepted || !fileDialog) {
         clear();
         return 2;
     }

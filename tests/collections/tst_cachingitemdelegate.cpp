@@ -5,6 +5,8 @@
 #include "telecfg/collections/cachingitemdelegate_p.h"
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/valuetypes.h"
+#include "tests/support/anycontrol.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QStyledItemDelegate>
@@ -19,11 +21,12 @@ QImage shot(QWidget &widget)
 }
 } // namespace
 
-class TestCachingItemDelegate : public QObject
+class TestCachingItemDelegate : public TestCase
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { allowListConnectionWarning(); }
     void looksAsStock_data();
     void looksAsStock();
 };

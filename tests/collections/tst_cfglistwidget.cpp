@@ -3,8 +3,10 @@
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "tests/collections/collectiontest.h"
+#include "tests/support/anycontrol.h"
 #include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QtTest>
 
@@ -67,11 +69,12 @@ struct Bound
 };
 } // namespace
 
-class TestCfgListWidget : public QObject
+class TestCfgListWidget : public TestCase
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { allowListConnectionWarning(); }
     void selectionChangeConnectionFails();
     void operations_data();
     void operations();
@@ -85,8 +88,8 @@ private slots:
 void TestCfgListWidget::selectionChangeConnectionFails()
 {
     // Deliberate: the list takes no action on a selection change.
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression("No such slot CfgListWidget::selectionChanged\\(\\)"));
+    const ExpectedWarning failedConnection(
+        QStringLiteral("No such slot CfgListWidget::selectionChanged()"));
     CfgListWidget list;
 }
 

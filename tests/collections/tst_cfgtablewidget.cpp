@@ -4,6 +4,7 @@
 #include "telecfg/collections/valuetypes.h"
 #include "tests/collections/collectiontest.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QtTest>
 
@@ -67,7 +68,7 @@ struct Bound
 };
 } // namespace
 
-class TestCfgTableWidget : public QObject
+class TestCfgTableWidget : public TestCase
 {
     Q_OBJECT
 

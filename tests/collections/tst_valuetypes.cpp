@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/valuetypes.h"
+#include "tests/support/testcase.h"
 
 #include <QtTest>
 
-class TestValueTypes : public QObject
+class TestValueTypes : public TestCase
 {
     Q_OBJECT
 

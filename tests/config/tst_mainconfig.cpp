@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/config/mainconfig.h"
+#include "tests/support/testcase.h"
 
 #include <QtTest>
 
 using VersionMap = QMap<int, int>;
 Q_DECLARE_METATYPE(VersionMap)
 
-class TestMainConfig : public QObject
+class TestMainConfig : public TestCase
 {
     Q_OBJECT
 
@@ -26,13 +27,13 @@ void TestMainConfig::versionRange_data()
     QTest::addColumn<int>("expectedMax");
 
     QTest::newRow("both empty") << VersionMap() << VersionMap() << 5 << 99 << 0;
-    QTest::newRow("key found") << VersionMap{{5, 12}, {0, 3}} << VersionMap{{5, 40}, {0, 50}}
-                               << 5 << 12 << 40;
+    QTest::newRow("key found") << VersionMap{{5, 12}, {0, 3}} << VersionMap{{5, 40}, {0, 50}} << 5
+                               << 12 << 40;
     QTest::newRow("key 0 fallback") << VersionMap{{0, 3}} << VersionMap{{0, 50}} << 5 << 3 << 50;
     QTest::newRow("mixed: min by key, max by 0")
         << VersionMap{{7, 8}} << VersionMap{{0, 30}} << 7 << 8 << 30;
-    QTest::newRow("other keys ignored") << VersionMap{{1, 8}} << VersionMap{{1, 30}} << 7 << 99
-                                        << 0;
+    QTest::newRow("other keys ignored")
+        << VersionMap{{1, 8}} << VersionMap{{1, 30}} << 7 << 99 << 0;
     QTest::newRow("stored max 0") << VersionMap{{0, 1}} << VersionMap{{0, 0}} << 0 << 1 << 0;
     QTest::newRow("negative key") << VersionMap{{-1, 4}} << VersionMap{{-1, 9}} << -1 << 4 << 9;
 }

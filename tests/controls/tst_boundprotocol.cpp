@@ -3,6 +3,7 @@
 // The protocol every bound control shares, run over every kind of control.
 #include "telecfg/dialogs/gui.h"
 #include "tests/support/anycontrol.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QLabel>
@@ -42,6 +43,7 @@ struct Visibility
 const Visibility visibilities[] = {
     {"at minimum", 5, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
     {"below minimum", 4, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
+    {"at maximum", 20, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, true},
     {"above maximum", 21, {{0, 5}}, {{0, 20}}, {}, 1, false, 0, 0, false},
     {"maximum 0 is open", 5000, {{0, 5}}, {{0, 0}}, {}, 1, false, 0, 0, true},
     {"no minimum, version 99", 99, {}, {}, {}, 1, false, 0, 0, true},
@@ -54,11 +56,12 @@ const Visibility visibilities[] = {
 };
 } // namespace
 
-class TestBoundProtocol : public QObject
+class TestBoundProtocol : public TestCase
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { allowListConnectionWarning(); }
     void cleanup() { setGUILicenseLevel(0); }
 
     void visibility_data()

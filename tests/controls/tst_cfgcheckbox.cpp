@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcheckbox.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QtTest>
 
-class TestCfgCheckBox : public QObject
+class TestCfgCheckBox : public TestCase
 {
     Q_OBJECT
 

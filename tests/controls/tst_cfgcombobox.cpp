@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcombobox.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QSignalSpy>
@@ -26,7 +27,7 @@ Options speeds()
 }
 } // namespace
 
-class TestCfgComboBox : public QObject
+class TestCfgComboBox : public TestCase
 {
     Q_OBJECT
 

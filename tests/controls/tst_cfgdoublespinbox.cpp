@@ -3,6 +3,7 @@
 // The control reads numbers through the system locale, which the toolkit takes from the
 // environment at start-up: CTest runs this suite with a point locale and with a comma one.
 #include "telecfg/controls/cfgdoublespinbox.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QtTest>
@@ -25,7 +26,7 @@ QString foreign(QString text)
 }
 } // namespace
 
-class TestCfgDoubleSpinBox : public QObject
+class TestCfgDoubleSpinBox : public TestCase
 {
     Q_OBJECT
 

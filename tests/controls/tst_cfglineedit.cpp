@@ -3,6 +3,7 @@
 // Decimal patterns follow the system locale, which the toolkit reads from the environment
 // at start-up: CTest runs this suite once with a point locale and once with a comma one.
 #include "telecfg/controls/cfglineedit.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QValidator>
@@ -29,7 +30,7 @@ void compareWrites(const TestHost &host, const QVariantList &expected)
 }
 } // namespace
 
-class TestCfgLineEdit : public QObject
+class TestCfgLineEdit : public TestCase
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgradiobutton.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QtTest>
@@ -23,7 +24,7 @@ const QString normal = sheet("radiobutton_selected_black", 24);
 const QString changed = sheet("radiobutton_selected_yellow", 22);
 } // namespace
 
-class TestCfgRadioButton : public QObject
+class TestCfgRadioButton : public TestCase
 {
     Q_OBJECT
 

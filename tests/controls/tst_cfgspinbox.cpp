@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgspinbox.h"
+#include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QtTest>
@@ -11,7 +12,7 @@ const QString yellow = QStringLiteral("QSpinBox{background: yellow;}");
 const QString white = QStringLiteral("QSpinBox{background: white;}");
 } // namespace
 
-class TestCfgSpinBox : public QObject
+class TestCfgSpinBox : public TestCase
 {
     Q_OBJECT
 
@@ -30,6 +31,8 @@ private slots:
             << 1 << QVariantList{0u, 300u, 500u} << 5 << "" << QList<int>{0, 300, 300} << white;
         QTest::newRow("signed bounds; -20 is red by its unsigned reading")
             << 21 << QVariantList{-50, 50, -20} << 5 << "" << QList<int>{-50, 50, -20} << red;
+        QTest::newRow("signed bounds held as text") << 21 << QVariantList{"-40", "40", "-10"} << 1
+                                                    << "" << QList<int>{-40, 40, -10} << white;
         QTest::newRow("unsigned -1 reads huge, wraps")
             << 1 << QVariantList{0u, 0xFFFFFFFFu, 10u} << 5 << "" << QList<int>{-1, -1, -1}
             << white;

@@ -3,6 +3,7 @@
 #include "telecfg/dialogs/cmddialog.h"
 #include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -21,7 +22,7 @@ QComboBox *commandBox(QWidget *dialog)
 }
 } // namespace
 
-class TestCmdDialog : public QObject
+class TestCmdDialog : public TestCase
 {
     Q_OBJECT
 

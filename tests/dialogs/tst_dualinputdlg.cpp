@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/dualinputdlg.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QDialogButtonBox>
 #include <QLineEdit>
@@ -13,7 +14,7 @@ namespace {
 const char separatorVariable[] = "TELECFG_TEST_DECIMAL_POINT";
 } // namespace
 
-class TestDualInputDlg : public QObject
+class TestDualInputDlg : public TestCase
 {
     Q_OBJECT
 

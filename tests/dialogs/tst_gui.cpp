@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/gui.h"
 #include "telecfg/network/countrytable.h"
+#include "tests/support/testcase.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -29,7 +30,7 @@ QLabel *addLabel(QGroupBox *box, int weight, const QString &name = QString())
 
 } // namespace
 
-class TestGui : public QObject
+class TestGui : public TestCase
 {
     Q_OBJECT
 

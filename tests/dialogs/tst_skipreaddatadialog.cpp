@@ -3,6 +3,7 @@
 #include "telecfg/dialogs/skipreaddatadialog.h"
 #include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -21,7 +22,7 @@ int getters(SkipReadDataDialog &dialog)
 }
 } // namespace
 
-class TestSkipReadDataDialog : public QObject
+class TestSkipReadDataDialog : public TestCase
 {
     Q_OBJECT
 

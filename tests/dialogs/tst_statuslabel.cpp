@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/statuslabel.h"
+#include "tests/support/testcase.h"
 
 #include <QtTest>
 
@@ -11,7 +12,7 @@ const QString green = QStringLiteral("QLabel { background-color : lightgreen};")
 const QString red = QStringLiteral("QLabel { background-color : red};");
 } // namespace
 
-class TestStatusLabel : public QObject
+class TestStatusLabel : public TestCase
 {
     Q_OBJECT
 
@@ -61,6 +62,7 @@ private slots:
 
         QTest::newRow("given") << 500 << 500;
         QTest::newRow("negative: default") << -300 << 2000;
+        QTest::newRow("0: default") << 0 << 2000;
     }
 
     void highlightEnds()

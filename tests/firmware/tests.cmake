@@ -20,7 +20,7 @@ target_link_libraries(firmware_fuzz_seeds PRIVATE telecfg_static)
 telecfg_warnings(firmware_fuzz_seeds)
 add_test(NAME fuzz_seeds COMMAND firmware_fuzz_seeds ${CMAKE_CURRENT_BINARY_DIR}/fuzzcorpus)
 set_tests_properties(fuzz_seeds PROPERTIES FIXTURES_SETUP fuzz_corpus)
-foreach(target getfirmwarefromfile recode decode decrypt decrypt1 addencodedfirmware)
+foreach(target getfirmwarefromfile recode decode decrypt decrypt1 addencodedfirmware roundtrip)
     add_executable(replay_${target} ${telecfg_fuzz_dir}/fuzz_${target}.cpp
         ${telecfg_fuzz_dir}/replay_main.cpp)
     target_link_libraries(replay_${target} PRIVATE telecfg_static)

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/firmware/checksums.h"
+#include "tests/support/testcase.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
 #include <zlib.h>
 
-class TestChecksums : public QObject
+class TestChecksums : public TestCase
 {
     Q_OBJECT
 

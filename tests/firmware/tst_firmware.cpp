@@ -5,10 +5,14 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/firmware/firmwarekeys.h"
 #include "tests/firmware/payloads.h"
+#include "tests/support/testcase.h"
 
+#include <QTemporaryDir>
 #include <QtEndian>
 #include <QtTest>
+#include <csignal>
 #include <lz4.h>
+#include <sys/resource.h>
 #include <tuple>
 
 Q_DECLARE_METATYPE(PayloadKind)
@@ -101,7 +105,7 @@ QByteArray compressedBody(const QByteArray &image, bool limited)
 }
 } // namespace
 
-class TestFirmware : public QObject
+class TestFirmware : public TestCase
 {
     Q_OBJECT
 
@@ -118,6 +122,8 @@ private slots:
     void hostileBodies();
     void addEncodedFirmwareChecks();
     void legacyWordChain();
+    void failedSaveKeepsTheEarlierFile_data();
+    void failedSaveKeepsTheEarlierFile();
 };
 
 void TestFirmware::imageLayout_data()
@@ -437,6 +443,61 @@ void TestFirmware::legacyWordChain()
     QCOMPARE(le32(encoded, 0), le32(data, 0) ^ (legacyChainSeed + legacyChainConstant));
     QCOMPARE(le32(encoded, 4), le32(data, 4) ^ (le32(encoded, 0) + legacyChainConstant));
     QCOMPARE(fw.decode_old(encoded), data.left(4000));
+}
+
+void TestFirmware::failedSaveKeepsTheEarlierFile_data()
+{
+    QTest::addColumn<bool>("raw");
+    QTest::addColumn<QString>("place");
+    for (const bool raw : {false, true})
+        for (const char *place : {"fits", "disk full", "folder is a file"})
+            QTest::addRow("%s, %s", raw ? "raw" : "encoded", place) << raw << QString(place);
+}
+
+// Tests run as root here, so a read-only folder would not stop the write: a file size limit
+// plays the full disk.
+void TestFirmware::failedSaveKeepsTheEarlierFile()
+{
+    QFETCH(bool, raw);
+    QFETCH(QString, place);
+    QTemporaryDir dir;
+    const QString plainFile = dir.filePath(QStringLiteral("plain"));
+    const bool noFolder = place == QLatin1String("folder is a file");
+    const bool full = place == QLatin1String("disk full");
+    const QString path =
+        noFolder ? plainFile + QStringLiteral("/fw.bin") : dir.filePath(QStringLiteral("fw.bin"));
+    const QByteArray earlier("earlier");
+    for (const QString &name : {plainFile, path}) {
+        QFile file(name);
+        if (file.open(QIODevice::WriteOnly))
+            file.write(earlier);
+    }
+    firmware fw = writer(0);
+    const QByteArray payload = makePayload(PayloadKind::Random, 5 * P, 3);
+    fw.addDecodedFirmware(payload);
+
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    if (full) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limited = before;
+        limited.rlim_cur = 4096;
+        setrlimit(RLIMIT_FSIZE, &limited);
+    }
+    const int code = raw ? fw.saveRawFile(path) : fw.saveEncodedFile(path);
+    setrlimit(RLIMIT_FSIZE, &before);
+
+    QCOMPARE(code, 0); // a failed write still reports 0, as it always has
+    QFile written(path);
+    const QByteArray now = written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+    if (full)
+        QCOMPARE(now, earlier);
+    else if (noFolder)
+        QVERIFY(now.isEmpty());
+    else
+        QVERIFY(raw ? now == payload : now.size() > 5 * P);
+    // Nothing half-written is left beside it.
+    QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), noFolder ? 1 : 2);
 }
 
 QTEST_APPLESS_MAIN(TestFirmware)

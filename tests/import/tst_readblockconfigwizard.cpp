@@ -3,6 +3,7 @@
 #include "telecfg/import/readblockconfigwizard.h"
 #include "tests/support/contexttranslator.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -73,7 +74,7 @@ FileAction typeName(const QString &name)
 const FileAction cancelFile = [](QFileDialog *dialog) { dialog->reject(); };
 } // namespace
 
-class TestReadBlockConfigWizard : public QObject
+class TestReadBlockConfigWizard : public TestCase
 {
     Q_OBJECT
     QTemporaryDir directory;

@@ -3,6 +3,7 @@
 #include "telecfg/network/countrycode.h"
 #include "telecfg/network/countrytable.h"
 #include "tests/support/modalcatcher.h"
+#include "tests/support/testcase.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -54,7 +55,7 @@ struct Form
 
 } // namespace
 
-class TestCountryCode : public QObject
+class TestCountryCode : public TestCase
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/network/countrytable.h"
+#include "tests/support/testcase.h"
 
 #include <QFile>
 #include <QTranslator>
@@ -54,7 +55,7 @@ public:
 
 } // namespace
 
-class TestCountryTable : public QObject
+class TestCountryTable : public TestCase
 {
     Q_OBJECT
 

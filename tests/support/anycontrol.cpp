@@ -4,12 +4,15 @@
 
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/collections/valuetypes.h"
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/controls/cfgdoublespinbox.h"
 #include "telecfg/controls/cfglineedit.h"
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/cfgspinbox.h"
+#include "tests/support/testcase.h"
+#include "tests/support/testhost.h"
 
 #include <QTest>
 
@@ -26,11 +29,30 @@ QStringList valueControlKinds()
 }
 
 namespace {
-template <class Control> AnyControl makeEditable(std::function<void(Control *)> edit)
+template <class Control>
+AnyControl makeEditable(const char *signal, std::function<void(Control *)> edit)
 {
     AnyControl any = makeAnyControl<Control>();
     auto *control = static_cast<Control *>(any.widget.get());
     any.userEdit = [control, edit] { edit(control); };
+    any.editSignal = signal;
+    return any;
+}
+
+// The collection editors add an element to the parameter they are bound to, which they do
+// not tell: the adapter remembers it from the binding.
+template <class Control>
+AnyControl makeCollection(const char *signal, std::function<void(Control *, int)> add)
+{
+    AnyControl any = makeEditable<Control>(signal, {});
+    auto *control = static_cast<Control *>(any.widget.get());
+    auto ref = std::make_shared<int>(0);
+    any.setReference = [control, ref](MainConfigIFace *iface, int bound, QWidget *label,
+                                      QList<QWidget *> related) {
+        *ref = bound;
+        control->setReference(iface, bound, label, related);
+    };
+    any.userEdit = [control, ref, add] { add(control, *ref); };
     return any;
 }
 } // namespace
@@ -38,24 +60,76 @@ template <class Control> AnyControl makeEditable(std::function<void(Control *)> 
 AnyControl makeAnyControl(const QString &kind)
 {
     if (kind == QLatin1String("checkbox"))
-        return makeEditable<CfgCheckBox>([](CfgCheckBox *box) { box->click(); });
+        return makeEditable<CfgCheckBox>(SIGNAL(stateChanged(int)),
+                                         [](CfgCheckBox *box) { box->click(); });
     if (kind == QLatin1String("combobox"))
-        return makeEditable<CfgComboBox>(
-            [](CfgComboBox *box) { box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0); });
+        return makeEditable<CfgComboBox>(SIGNAL(currentIndexChanged(int)), [](CfgComboBox *box) {
+            box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0);
+        });
     if (kind == QLatin1String("lineedit"))
-        return makeEditable<CfgLineEdit>(
-            [](CfgLineEdit *edit) { QTest::keyClick(edit, Qt::Key_1); });
+        return makeEditable<CfgLineEdit>(SIGNAL(textChanged(QString)), [](CfgLineEdit *edit) {
+            QTest::keyClick(edit, Qt::Key_1);
+        });
     if (kind == QLatin1String("spinbox"))
-        return makeEditable<CfgSpinBox>([](CfgSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
+        return makeEditable<CfgSpinBox>(SIGNAL(valueChanged(int)),
+                                        [](CfgSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
     if (kind == QLatin1String("doublespinbox"))
         return makeEditable<CfgDoubleSpinBox>(
+            SIGNAL(valueChanged(double)),
             [](CfgDoubleSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
     if (kind == QLatin1String("radiobutton"))
-        return makeEditable<CfgRadioButton>([](CfgRadioButton *button) { button->click(); });
+        return makeEditable<CfgRadioButton>(SIGNAL(pressed()),
+                                            [](CfgRadioButton *button) { button->click(); });
     if (kind == QLatin1String("list"))
-        return makeAnyControl<CfgListWidget>();
+        return makeCollection<CfgListWidget>(
+            SIGNAL(currentRowChanged(int)), [](CfgListWidget *list, int ref) {
+                list->addValue(QVariant(uint(list->count() + 1)), ref);
+            });
     if (kind == QLatin1String("table"))
-        return makeAnyControl<CfgTableWidget>();
+        return makeCollection<CfgTableWidget>(
+            SIGNAL(cellChanged(int, int)), [](CfgTableWidget *table, int ref) {
+                const QString id = QString::number(table->rowCount() + 1);
+                table->addValue(QVariant(QStringList{id, id}), ref);
+            });
     qFatal("unknown control kind %s", qPrintable(kind));
     return {};
+}
+
+MainConfigObject &addEditableRecord(TestHost &host, const QString &kind, int ref)
+{
+    registerCollectionTypes();
+    MainConfigObject &object = host.add(ref, 1, 0u);
+    object.minimum = 0u;
+    object.maximum = 100u;
+    object.step = 1;
+    object.capacity = 4;
+    if (kind == QLatin1String("combobox")) {
+        object.options = {{0, {QStringLiteral("a"), QStringLiteral("1")}},
+                          {1, {QStringLiteral("b"), QStringLiteral("2")}}};
+        object.value = QStringLiteral("1");
+    } else if (kind == QLatin1String("lineedit")) {
+        object.value = QString();
+    } else if (kind == QLatin1String("doublespinbox")) {
+        object.type = 3;
+        object.minimum = QStringLiteral("0");
+        object.maximum = QStringLiteral("100");
+        object.value = QStringLiteral("5");
+    } else if (kind == QLatin1String("radiobutton")) {
+        object.type = 4;
+        object.minimum = 3u;
+    } else if (kind == QLatin1String("list")) {
+        object.type = 24;
+        object.value = QVariant::fromValue(QVector<quint32>(4));
+    } else if (kind == QLatin1String("table")) {
+        object.type = 0;
+        object.columnListA = QVariant::fromValue(QList<uint>{0, 1});
+        object.columnListB = object.columnListA;
+        object.value = QVariant::fromValue(ColumnVectors(2, QVector<QByteArray>(4)));
+    }
+    return object;
+}
+
+void allowListConnectionWarning()
+{
+    allowWarning(QStringLiteral("No such slot CfgListWidget::selectionChanged()"));
 }

@@ -20,8 +20,11 @@ struct AnyControl
     std::function<void(bool)> setHidden;
     std::function<void(bool)> setError;
     std::function<bool()> isError;
-    // One edit through the widget's own change path, as the user makes it.
+    // One edit through the widget's own change path, as the user makes it (for the collection
+    // editors an add of a new element to the bound parameter).
     std::function<void()> userEdit;
+    // A signal of the control's own that the user edit emits (SIGNAL() form).
+    const char *editSignal = nullptr;
 };
 
 template <class Control> AnyControl makeAnyControl()
@@ -47,3 +50,11 @@ QStringList anyControlKinds();
 // The six single-value controls, which have a user edit and paint through a style sheet.
 QStringList valueControlKinds();
 AnyControl makeAnyControl(const QString &kind);
+
+class TestHost;
+// Adds at `ref` a record of the kind's usual type on which the user edit writes to the host.
+MainConfigObject &addEditableRecord(TestHost &host, const QString &kind, int ref);
+
+// The list's selection connection fails on purpose (the list ignores selection changes);
+// suites that make lists allow its warning with this.
+void allowListConnectionWarning();

@@ -42,12 +42,12 @@ public:
 
     QMap<int, MainConfigObject> records;
     // Scripted answers.
-    QSet<int> invalid;                  // isValid false for these
-    QSet<int> modified;                 // isModified true for these
-    QMap<int, QVariant> stored;         // matchesStored compares against these
+    QSet<int> invalid;          // isValid false for these
+    QSet<int> modified;         // isModified true for these
+    QMap<int, QVariant> stored; // matchesStored compares against these
     QMap<int, QList<int>> invalidItemsOf, modifiedItemsOf;
     QMap<int, QVariantList> storedItemsOf; // isStoredItem looks here
-    bool storeWrites = true;            // setValue also updates the record's value
+    bool storeWrites = true;               // setValue also updates the record's value
     // Optional hook run after each logged write (a host reacting to the edit).
     std::function<void(int, const QVariant &)> onWrite;
 
