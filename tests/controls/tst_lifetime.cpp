@@ -5,8 +5,11 @@
 // while open, and a parameter table rebuilt between calls.
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/dialogs/cmddialog.h"
+#include "telecfg/dialogs/dualinputdlg.h"
 #include "telecfg/dialogs/skipreaddatadialog.h"
 #include "telecfg/import/readblockconfigwizard.h"
+#include "telecfg/network/countrycode.h"
 #include "tests/support/anycontrol.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
@@ -203,6 +206,9 @@ void TestLifetime::dialogDeletedWithItsParent_data()
     QTest::newRow("table: cell emptied") << 3;
     QTest::newRow("skipped data dialog") << 4;
     QTest::newRow("import wizard") << 5;
+    QTest::newRow("two-value dialog") << 6;
+    QTest::newRow("command dialog") << 7;
+    QTest::newRow("country dialog") << 8;
 }
 
 // Whatever opens a modal dialog, the host deletes the page under it while it is open.
@@ -241,9 +247,15 @@ void TestLifetime::dialogDeletedWithItsParent()
     } else if (opener == 4) {
         auto *dialog = new SkipReadDataDialog(form, true, false, true, false, true);
         QCOMPARE(dialog->exec(), int(QDialog::Rejected));
-    } else {
+    } else if (opener == 5) {
         auto *wizard = new ReadBlockConfigWizard(QStringLiteral("/nonexistent"), form);
         QCOMPARE(wizard->exec(QString()), 1);
+    } else {
+        QHash<int, QString> commands{{1, QStringLiteral("a")}};
+        QDialog *dialog = opener == 6   ? static_cast<QDialog *>(new DualInputDlg(0, form))
+                          : opener == 7 ? static_cast<QDialog *>(new CmdDialog(form, commands))
+                                        : new CountryCode(form);
+        QCOMPARE(dialog->exec(), int(QDialog::Rejected));
     }
     QVERIFY(form.isNull());
     QCOMPARE(catcher.seen.size(), 1);

@@ -121,7 +121,7 @@ QVariant randomValue(Rng &rng)
     case 2:
         return -pick(rng, 100);
     case 3:
-        return QString::number(int(randomNumber(rng)) - pick(rng, 50));
+        return QString::number(qint64(qint32(randomNumber(rng))) - pick(rng, 50));
     case 4:
         return randomText(rng);
     case 5:
@@ -140,8 +140,7 @@ QVariant randomValue(Rng &rng)
         return QVariant::fromValue(randomVector<QVector<QByteArray>>(
             rng, [&] { return randomVector<QByteArray>(rng, [&] { return randomBytes(rng); }); }));
     case 12:
-        return QVariant::fromValue(
-            randomVector<uint>(rng, [&] { return uint(pick(rng, 4)); }).toList());
+        return QVariant::fromValue(QList<uint>{uint(pick(rng, 4)), uint(pick(rng, 4))});
     case 13:
         return QStringList{randomText(rng), randomText(rng)};
     case 14:
