@@ -3,11 +3,12 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
+#include <QWidget>
 #include <functional>
 
-class QWidget;
 
 // Watches for modal dialogs and message boxes opened inside the code under test, records
 // what they showed and closes them (or hands them to a test's action, which plays the
@@ -34,6 +35,7 @@ private slots:
 
 private:
     std::function<void(QWidget *)> action;
-    QWidget *handled = nullptr;
+    // Guarded: a box opened right after a handled one was deleted can take its address.
+    QPointer<QWidget> handled;
     QTimer timer;
 };
