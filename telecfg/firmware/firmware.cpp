@@ -11,7 +11,6 @@
 #include <cstring>
 #include <ctime>
 #include <lz4.h>
-#include <vector>
 
 int firmware::page = 2048;
 
@@ -184,36 +183,6 @@ void convertToCompressed(QByteArray &file, int hw1, int hw2)
     firmware::crypt(image, hw1, hw2, outerKey, 1);
     file = image;
 }
-
-// Yields the blocks of a body from block 6 on deciphered, a window of blocks at a time.
-class DecipheredBlocks
-{
-public:
-    DecipheredBlocks(const QByteArray &body, const unsigned char *key)
-        : data(bytes(body)), blocks(body.size() / 16), cipher(key, BlockCipher::Decipher)
-    {
-    }
-    void load(int index, unsigned char *work)
-    {
-        if (index < first || index >= first + count) {
-            first = index;
-            count = qMin(windowBlocks, blocks - index);
-            std::memcpy(window, data + qint64(index) * 16, size_t(count) * 16);
-            cipher.apply(window, qint64(count) * 16);
-        }
-        std::memcpy(work, window + (index - first) * 16, 16);
-    }
-    void decipherAgain(unsigned char *work) { cipher.apply(work, 16); }
-
-private:
-    static constexpr int windowBlocks = 128;
-    const unsigned char *data;
-    int blocks;
-    BlockCipher cipher;
-    unsigned char window[windowBlocks * 16];
-    int first = -1;
-    int count = 0;
-};
 
 } // namespace
 
@@ -480,57 +449,66 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
 {
     const qint64 size = body.size();
     const int blocks = body.size() / 16;
-    DecipheredBlocks source(body, keyOr(key));
+    // The body is read as a row of 16-byte blocks, one per pass, the pass after the last
+    // whole block included. Blocks 0 to 5 stand as they are, the later ones deciphered; the
+    // pass after the last whole block takes the block before it deciphered once more (or as
+    // it is when it is one of the first six). All of them are laid out in place first, the
+    // extra block over the tail, so that the record accumulator is a range of the body.
+    body.resize((blocks + 1) * 16);
+    unsigned char *block = bytes(body);
+    {
+        BlockCipher source(keyOr(key), BlockCipher::Decipher);
+        if (blocks > 6)
+            source.apply(block + 6 * 16, qint64(blocks - 6) * 16);
+        unsigned char *extra = block + qint64(blocks) * 16;
+        if (blocks > 0)
+            std::memcpy(extra, extra - 16, 16);
+        else
+            std::memset(extra, 0, 16);
+        if (blocks >= 6)
+            source.apply(extra, 16);
+    }
     BlockCipher pageCipher(pageKey, BlockCipher::Encipher);
-    LZ4_streamDecode_t stream;
-    unsigned char ring[ringSize] = {};
-    int ringAt = 0;
-    unsigned char work[16] = {};
-    std::vector<char> accumulator;
-    accumulator.reserve(accumulatorCapacity + 16);
-    int pending = -1;
-    int recordsRead = 0;
     quint32 running = 0;
     QByteArray result;
     result.reserve(int(qMin<qint64>(size * 4, 136 + maxReadPages * pieceSize)));
-    int code = 2;
 
-    for (int i = 0;; ++i) {
-        // One pass follows the last whole block: it decodes what that block completed.
-        const bool last = size < (qint64(i) + 1) * 16;
-        if (i < blocks) {
-            if (i < 6)
-                std::memcpy(work, bytes(body) + i * 16, 16);
-            else
-                source.load(i, work);
-        } else if (i >= 6) {
-            source.decipherAgain(work);
+    // The first eight blocks: checksummed, and copied with blocks 6 and 7 under the page key.
+    for (int i = 0; i < 8; ++i) {
+        const unsigned char *work = block + i * 16;
+        running = crc32next(running, work, 16);
+        const int at = result.size();
+        result.append(reinterpret_cast<const char *>(work), 16);
+        if (i >= 6)
+            pageCipher.apply(bytes(result) + at, 16);
+        if (i >= blocks) {
+            body = result;
+            return 2;
         }
-        if (i < 8) {
-            running = crc32next(running, work, 16);
-            if (i >= 6) {
-                unsigned char copy[16];
-                std::memcpy(copy, work, 16);
-                pageCipher.apply(copy, 16);
-                result.append(reinterpret_cast<const char *>(copy), 16);
-            } else {
-                result.append(reinterpret_cast<const char *>(work), 16);
-            }
-            if (last)
-                break;
-            continue;
-        }
-        if (i == 8)
-            LZ4_setStreamDecode(&stream, nullptr, 0);
-        accumulator.insert(accumulator.end(), work, work + 16);
+    }
+
+    // From block 8 on each pass adds its block to the accumulator [from, end) and decodes
+    // at most one record: its 16-bit length first, then, once that many bytes are there,
+    // the record itself.
+    LZ4_streamDecode_t stream;
+    LZ4_setStreamDecode(&stream, nullptr, 0);
+    unsigned char ring[ringSize] = {};
+    int ringAt = 0;
+    int from = 8 * 16;
+    int pending = -1;
+    int recordsRead = 0;
+    int code = 2;
+    for (int i = 8; i <= blocks; ++i) {
+        const bool last = i == blocks;
+        const int end = (i + 1) * 16;
         if (pending < 0) {
-            if (accumulator.size() <= 2) {
+            if (end - from <= 2) {
                 if (last)
                     break;
                 continue;
             }
-            pending = int(quint8(accumulator[0]) | quint8(accumulator[1]) << 8);
-            accumulator.erase(accumulator.begin(), accumulator.begin() + 2);
+            pending = int(block[from] | block[from + 1] << 8);
+            from += 2;
         }
         if (pending == 0)
             break;
@@ -542,14 +520,17 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
         }
         if (pending > accumulatorCapacity)
             break;
-        if (int(accumulator.size()) < pending) {
+        if (end - from < pending) {
             if (last)
                 break;
+            // The passes until the record is complete only add blocks: go to the one that
+            // completes it, or to the last.
+            i = qMin(blocks, (from + pending + 15) / 16 - 1) - 1;
             continue;
         }
-        const int decoded = LZ4_decompress_safe_continue(&stream, accumulator.data(),
-                                                         reinterpret_cast<char *>(ring + ringAt),
-                                                         pending, pieceSize);
+        const int decoded = LZ4_decompress_safe_continue(
+            &stream, reinterpret_cast<const char *>(block + from),
+            reinterpret_cast<char *>(ring + ringAt), pending, pieceSize);
         if (decoded <= 0)
             break;
         const unsigned char *chunk = ring + ringAt;
@@ -573,7 +554,7 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
         pageCipher.apply(bytes(result) + at, fixedPage);
         appendLe32(result, crc32next(0, bytes(result) + at, fixedPage));
         result.append(reinterpret_cast<const char *>(chunk) + fixedPage + 4, 4);
-        accumulator.erase(accumulator.begin(), accumulator.begin() + pending);
+        from += pending;
         pending = -1;
         ringAt += decoded;
         if (ringAt >= pieceSize + 10)
