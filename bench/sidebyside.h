@@ -27,12 +27,15 @@ struct Totals
     double reference = 0; // seconds over all iterations
 };
 
-template <typename Work, typename Reference>
-Totals run(benchmark::State &state, Work work, Reference reference)
+// `prepare` runs before each iteration, outside both times (e.g. to give the work a fresh
+// copy of its input, as a host's own buffer would be).
+template <typename Work, typename Reference, typename Prepare>
+Totals run(benchmark::State &state, Work work, Reference reference, Prepare prepare)
 {
     Totals totals;
     bool workFirst = true;
     for (auto _ : state) {
+        prepare();
         // The order alternates, so neither side always finds the caches warmed by the other.
         double spent = 0;
         for (int side = 0; side < 2; ++side) {
@@ -51,6 +54,12 @@ Totals run(benchmark::State &state, Work work, Reference reference)
         state.SetIterationTime(spent);
     }
     return totals;
+}
+
+template <typename Work, typename Reference>
+Totals run(benchmark::State &state, Work work, Reference reference)
+{
+    return run(state, work, reference, [] {});
 }
 
 inline void reportTimes(benchmark::State &state, const std::string &name, const Totals &totals)
