@@ -76,7 +76,10 @@ void BoundControl::updateEnableState(QWidget *self, bool state)
 
 void applyStyleSheet(QWidget *widget, const QString &sheet)
 {
-    if (widget->styleSheet() != sheet)
+    // The widget keeps a shared copy of the sheet it was given: the same text is found
+    // without comparing it.
+    const QString current = widget->styleSheet();
+    if (current.constData() != sheet.constData() && current != sheet)
         widget->setStyleSheet(sheet);
 }
 
