@@ -22,3 +22,4 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
+#include "telecfg/translations.h"
