@@ -7,7 +7,9 @@
 # The tools' imported targets are seen only in the folder that looks for them: each
 # function below looks for them where it is called.
 macro(telecfg_find_linguist_tools)
-    if(TARGET Qt6::Core)
+    if(DEFINED TELECFG_QT_MAJOR_VERSION)
+        set(telecfg_qt_major ${TELECFG_QT_MAJOR_VERSION})
+    elseif(TARGET Qt6::Core)
         set(telecfg_qt_major 6)
     else()
         set(telecfg_qt_major 5)

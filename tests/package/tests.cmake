@@ -9,6 +9,8 @@ add_test(NAME package_consumer
         -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/package
         -DCONSUMER_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
         -DSANITIZE=${TELECFG_SANITIZE}
+        -DPACKAGE=${TELECFG_NAME}
+        -DQT_MAJOR=${TELECFG_QT_MAJOR_VERSION}
         -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
 set_tests_properties(package_consumer PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)

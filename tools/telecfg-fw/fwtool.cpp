@@ -14,6 +14,7 @@
 #include <QSaveFile>
 
 #include <cerrno>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -643,7 +644,7 @@ int FwTool::verify(const QStringList &arguments)
     if (wanted == -2)
         return BadArguments;
     int worst = Success;
-    for (const QString &path : qAsConst(line.files)) {
+    for (const QString &path : std::as_const(line.files)) {
         QByteArray file;
         if (const int status = readFile(path, file); status >= 0) {
             worst = worse(worst, status);

@@ -48,7 +48,7 @@ int main(int argc, char **argv)
     QByteArray check("123456789");
     QString country, network;
     networkNames(260u << 10 | 3u, country, network);
-    std::printf("min version %d, writes %d, value %d, crc16 %04x, %s / %s\n",
+    std::printf("Qt %s, min version %d, writes %d, value %d, crc16 %04x, %s / %s\n", qVersion(),
                 getConfigMinVersion(table.records[3]), table.writes,
                 table.records[3].value.toInt(), unsigned(crc16(check)), qPrintable(country),
                 qPrintable(network));
