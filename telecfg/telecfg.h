@@ -23,3 +23,4 @@
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/version.h"
+#include "telecfg/translations.h"
