@@ -22,3 +22,5 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
+#include "telecfg/version.h"
+#include "telecfg/translations.h"

@@ -30,18 +30,20 @@ bool BoundControl::isHiddenNow(int id)
     if (id != 0)
         hardwareId = id;
     const quint32 version = iface->object(2).value.toUInt();
-    const quint32 minimum = getConfigMinVersion(record());
-    const quint32 maximum = getConfigMaxVersion(record());
+    // Fetched once after the version: nothing calls the host while it is read.
+    MainConfigObject &object = record();
+    const quint32 minimum = getConfigMinVersion(object);
+    const quint32 maximum = getConfigMaxVersion(object);
     if (version < minimum)
         return true;
     if (maximum != 0 && version > maximum)
         return true;
-    const QList<int> &ids = record().hardwareIds;
+    const QList<int> &ids = object.hardwareIds;
     if (!ids.isEmpty() && !ids.contains(hardwareId))
         return true;
-    if (record().hidden)
+    if (object.hidden)
         return true;
-    return record().licenceGate > guiLicenseLevel();
+    return object.licenceGate > guiLicenseLevel();
 }
 
 bool BoundControl::refreshVisibility(QWidget *self, int id)
@@ -78,7 +80,10 @@ void BoundControl::updateEnableState(QWidget *self, bool state)
 
 void applyStyleSheet(QWidget *widget, const QString &sheet)
 {
-    if (widget->styleSheet() != sheet)
+    // The widget keeps a shared copy of the sheet it was given: the same text is found
+    // without comparing it.
+    const QString current = widget->styleSheet();
+    if (current.constData() != sheet.constData() && current != sheet)
         widget->setStyleSheet(sheet);
 }
 

@@ -3,8 +3,11 @@
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/qtcompat_p.h"
 
+#include <QAbstractItemModel>
 #include <QColor>
+#include <QHash>
 #include <QIcon>
+#include <QPersistentModelIndex>
 #include <QVector>
 #include <array>
 
@@ -34,6 +37,51 @@ const QString &comboSheet(Colour colour)
         return result;
     }();
     return sheets[colour];
+}
+
+// The item lists last painted white, by model, root and column, until their model announces
+// any change of data, rows or layout: a refresh of an unchanged list then reads no item.
+struct WhiteList
+{
+    QPersistentModelIndex root;
+    int column;
+};
+QHash<const QAbstractItemModel *, QVector<WhiteList>> &whiteLists()
+{
+    static QHash<const QAbstractItemModel *, QVector<WhiteList>> lists;
+    return lists;
+}
+
+bool itemsKnownWhite(const QComboBox *box)
+{
+    const auto found = whiteLists().constFind(box->model());
+    if (found == whiteLists().cend())
+        return false;
+    for (const WhiteList &list : *found)
+        if (list.column == box->modelColumn() && list.root == box->rootModelIndex())
+            return true;
+    return false;
+}
+
+void rememberItemsWhite(const QComboBox *box)
+{
+    QAbstractItemModel *model = box->model();
+    if (!model || itemsKnownWhite(box))
+        return;
+    auto &lists = whiteLists();
+    if (!lists.contains(model)) {
+        const auto forget = [model] { whiteLists().remove(model); };
+        QObject::connect(model, &QAbstractItemModel::dataChanged, forget);
+        QObject::connect(model, &QAbstractItemModel::rowsInserted, forget);
+        QObject::connect(model, &QAbstractItemModel::rowsMoved, forget);
+        QObject::connect(model, &QAbstractItemModel::columnsInserted, forget);
+        QObject::connect(model, &QAbstractItemModel::columnsMoved, forget);
+        QObject::connect(model, &QAbstractItemModel::columnsRemoved, forget);
+        QObject::connect(model, &QAbstractItemModel::layoutChanged, forget);
+        QObject::connect(model, &QAbstractItemModel::modelReset, forget);
+        QObject::connect(model, &QObject::destroyed, forget);
+    }
+    lists[model].append({QPersistentModelIndex(box->rootModelIndex()), box->modelColumn()});
 }
 } // namespace
 
@@ -86,12 +134,13 @@ void CfgComboBox::updateControl(int hardwareId)
 
 void CfgComboBox::updateColor(bool enabled)
 {
-    if (enabled) {
+    if (enabled && !itemsKnownWhite(this)) {
         // Setting an equal background still makes the model announce a change; skip it.
         static const QVariant white = QColor(QStringLiteral("white"));
-        for (int i = 0; i < count(); ++i)
+        for (int i = 0, n = count(); i < n; ++i)
             if (itemData(i, Qt::BackgroundRole) != white)
                 setItemData(i, white, Qt::BackgroundRole);
+        rememberItemsWhite(this);
     }
     Colour colour = enabled ? White : PaleGrey;
     if (bound.error)

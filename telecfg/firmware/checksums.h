@@ -16,7 +16,7 @@ TELECFG_EXPORT void crc16(quint16 *crc, char *data, int length);
 TELECFG_EXPORT quint32 crc32next(quint32 crc, const unsigned char *data, quint64 length);
 // CRC-8 of 1-Wire devices: no initial value, no final inversion.
 TELECFG_EXPORT quint8 crc8(const QByteArray &data);
-// The same CRC-32 as crc32next(0, data, length), computed bit by bit without a table.
+// The same CRC-32 as crc32next(0, data, length); 0 for a length of 0 or less.
 TELECFG_EXPORT quint32 docrc32(const unsigned char *data, int length);
 // The same CRC-32 as crc32next(0, data, length), taken in steps of pageSize + 8 bytes
 // after the first 8; the result does not depend on pageSize.

@@ -8,11 +8,11 @@
 
 #include <QFile>
 #include <QSaveFile>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <lz4.h>
-#include <vector>
 
 int firmware::page = 2048;
 
@@ -125,23 +125,23 @@ void finishOuterChecksum(QByteArray &file)
 }
 
 // Compresses data from `from` in pieces of one record as one LZ4 stream, appending each as
-// a 16-bit length and the block. The dictionary is cut back to the previous piece before
-// each next one: the reader's ring keeps no more than that.
+// a 16-bit length and the block, compressed straight into place. The dictionary is cut back
+// to the previous piece before each next one: the reader's ring keeps no more than that.
 quint32 appendCompressedPieces(QByteArray &body, const QByteArray &data, int from)
 {
     LZ4_stream_t stream;
     LZ4_initStream(&stream, sizeof stream);
     char dictionary[pieceSize];
-    char block[LZ4_COMPRESSBOUND(pieceSize)];
+    constexpr int room = LZ4_COMPRESSBOUND(pieceSize);
     quint32 total = 0;
     for (int at = from; at < data.size(); at += pieceSize) {
         const int length = qMin(pieceSize, data.size() - at);
-        const int packed = LZ4_compress_fast_continue(&stream, data.constData() + at, block, length,
-                                                      int(sizeof block), 1);
-        unsigned char prefix[2];
-        putLe16(prefix, quint16(packed));
-        body.append(reinterpret_cast<const char *>(prefix), 2);
-        body.append(block, packed);
+        const int start = body.size();
+        body.resize(start + 2 + room);
+        const int packed = LZ4_compress_fast_continue(&stream, data.constData() + at,
+                                                      body.data() + start + 2, length, room, 1);
+        putLe16(bytes(body) + start, quint16(packed));
+        body.resize(start + 2 + packed);
         total += quint32(packed);
         LZ4_saveDict(&stream, dictionary, length);
     }
@@ -196,36 +196,6 @@ void convertToCompressed(QByteArray &file, int hw1, int hw2)
     firmware::crypt(image, hw1, hw2, outerKey, 1);
     file = image;
 }
-
-// Yields the blocks of a body from block 6 on deciphered, a window of blocks at a time.
-class DecipheredBlocks
-{
-public:
-    DecipheredBlocks(const QByteArray &body, const unsigned char *key)
-        : data(bytes(body)), blocks(body.size() / 16), cipher(key, BlockCipher::Decipher)
-    {
-    }
-    void load(int index, unsigned char *work)
-    {
-        if (index < first || index >= first + count) {
-            first = index;
-            count = qMin(windowBlocks, blocks - index);
-            std::memcpy(window, data + qint64(index) * 16, size_t(count) * 16);
-            cipher.apply(window, qint64(count) * 16);
-        }
-        std::memcpy(work, window + (index - first) * 16, 16);
-    }
-    void decipherAgain(unsigned char *work) { cipher.apply(work, 16); }
-
-private:
-    static constexpr int windowBlocks = 128;
-    const unsigned char *data;
-    int blocks;
-    BlockCipher cipher;
-    unsigned char window[windowBlocks * 16];
-    int first = -1;
-    int count = 0;
-};
 
 } // namespace
 
@@ -396,7 +366,11 @@ int firmware::crypt(QByteArray &image, int hw1, int hw2, const unsigned char *ke
     QByteArray file = outerHeader(hw1, hw2);
     putLe32(bytes(file) + 24, compress);
     putLe32(bytes(file) + 28, quint32(image.size()));
-    file.reserve(headerSize + image.size() + image.size() / 255 + 64);
+    // Room for the whole file, every compressed piece at its largest: the body never moves.
+    const qint64 pieces = qMax(0, image.size() - headerSize) / pieceSize + 1;
+    const qint64 room = compress ? 2 * headerSize + pieces * (2 + LZ4_COMPRESSBOUND(pieceSize)) + 16
+                                 : qint64(headerSize) + image.size() + 16;
+    file.reserve(int(qMin<qint64>(room, INT_MAX / 2)));
     file.append(image.left(headerSize));
     if (compress) {
         putLe32(bytes(file) + 8, appendCompressedPieces(file, image, headerSize));
@@ -484,61 +458,78 @@ int firmware::decrypt1(QByteArray &file, int &hw1, int &hw2, const unsigned char
     return 0;
 }
 
-int firmware::recode(QByteArray &body, const unsigned char *key)
+namespace {
+
+// recode of the body that starts at `offset` of `file`; `file` becomes the result.
+int recodeAt(QByteArray &file, int offset, const unsigned char *key)
 {
-    const qint64 size = body.size();
-    const int blocks = body.size() / 16;
-    DecipheredBlocks source(body, keyOr(key));
+    const int blocks = (file.size() - offset) / 16;
+    // The body is read as a row of 16-byte blocks, one per pass, the pass after the last
+    // whole block included. Blocks 0 to 5 stand as they are, the later ones deciphered (in
+    // place, one call for all); the pass after the last whole block takes the block before
+    // it deciphered once more, or as it is when it is one of the first six.
+    unsigned char *block = bytes(file) + offset;
+    unsigned char extra[16] = {};
+    {
+        BlockCipher source(keyOr(key), BlockCipher::Decipher);
+        if (blocks > 6)
+            source.apply(block + 6 * 16, qint64(blocks - 6) * 16);
+        if (blocks > 0)
+            std::memcpy(extra, block + qint64(blocks - 1) * 16, 16);
+        if (blocks >= 6)
+            source.apply(extra, 16);
+    }
     BlockCipher pageCipher(pageKey, BlockCipher::Encipher);
-    LZ4_streamDecode_t stream;
-    unsigned char ring[ringSize] = {};
-    int ringAt = 0;
-    unsigned char work[16] = {};
-    std::vector<char> accumulator;
-    accumulator.reserve(accumulatorCapacity + 16);
-    int pending = -1;
-    int recordsRead = 0;
     quint32 running = 0;
     QByteArray result;
-    result.reserve(int(qMin<qint64>(size * 4, 136 + maxReadPages * pieceSize)));
-    int code = 2;
+    result.reserve(
+        int(qMin<qint64>(qint64(file.size() - offset) * 4, 136 + maxReadPages * pieceSize)));
 
-    for (int i = 0;; ++i) {
-        // One pass follows the last whole block: it decodes what that block completed.
-        const bool last = size < (qint64(i) + 1) * 16;
-        if (i < blocks) {
-            if (i < 6)
-                std::memcpy(work, bytes(body) + i * 16, 16);
-            else
-                source.load(i, work);
-        } else if (i >= 6) {
-            source.decipherAgain(work);
+    // The first eight blocks: checksummed, and copied with blocks 6 and 7 under the page key.
+    for (int i = 0; i < 8; ++i) {
+        const unsigned char *work = i < blocks ? block + i * 16 : extra;
+        running = crc32next(running, work, 16);
+        const int at = result.size();
+        result.append(reinterpret_cast<const char *>(work), 16);
+        if (i >= 6)
+            pageCipher.apply(bytes(result) + at, 16);
+        if (i >= blocks) {
+            file = result;
+            return 2;
         }
-        if (i < 8) {
-            running = crc32next(running, work, 16);
-            if (i >= 6) {
-                unsigned char copy[16];
-                std::memcpy(copy, work, 16);
-                pageCipher.apply(copy, 16);
-                result.append(reinterpret_cast<const char *>(copy), 16);
-            } else {
-                result.append(reinterpret_cast<const char *>(work), 16);
-            }
-            if (last)
-                break;
-            continue;
+    }
+
+    // From block 8 on each pass adds its block to the accumulator, the bytes from `from` to
+    // the pass's end, and decodes at most one record: its 16-bit length first, then, once
+    // that many bytes are there, the record itself. The last pass reads a copy with the
+    // extra block after it.
+    LZ4_streamDecode_t stream;
+    LZ4_setStreamDecode(&stream, nullptr, 0);
+    unsigned char ring[ringSize] = {};
+    int ringAt = 0;
+    int from = 8 * 16;
+    int pending = -1;
+    int recordsRead = 0;
+    int code = 2;
+    QByteArray lastPass;
+    for (int i = 8; i <= blocks; ++i) {
+        const bool last = i == blocks;
+        const int end = (i + 1) * 16;
+        const unsigned char *accumulator = block + from;
+        if (last) {
+            lastPass = QByteArray(reinterpret_cast<const char *>(accumulator), i * 16 - from);
+            lastPass.append(reinterpret_cast<const char *>(extra), 16);
+            accumulator = bytes(lastPass);
         }
-        if (i == 8)
-            LZ4_setStreamDecode(&stream, nullptr, 0);
-        accumulator.insert(accumulator.end(), work, work + 16);
         if (pending < 0) {
-            if (accumulator.size() <= 2) {
+            if (end - from <= 2) {
                 if (last)
                     break;
                 continue;
             }
-            pending = int(quint8(accumulator[0]) | quint8(accumulator[1]) << 8);
-            accumulator.erase(accumulator.begin(), accumulator.begin() + 2);
+            pending = int(accumulator[0] | accumulator[1] << 8);
+            accumulator += 2;
+            from += 2;
         }
         if (pending == 0)
             break;
@@ -550,14 +541,17 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
         }
         if (pending > accumulatorCapacity)
             break;
-        if (int(accumulator.size()) < pending) {
+        if (end - from < pending) {
             if (last)
                 break;
+            // The passes until the record is complete only add blocks: go to the one that
+            // completes it, or to the last.
+            i = qMin(blocks, (from + pending + 15) / 16 - 1) - 1;
             continue;
         }
-        const int decoded = LZ4_decompress_safe_continue(&stream, accumulator.data(),
-                                                         reinterpret_cast<char *>(ring + ringAt),
-                                                         pending, pieceSize);
+        const int decoded = LZ4_decompress_safe_continue(
+            &stream, reinterpret_cast<const char *>(accumulator),
+            reinterpret_cast<char *>(ring + ringAt), pending, pieceSize);
         if (decoded <= 0)
             break;
         const unsigned char *chunk = ring + ringAt;
@@ -581,7 +575,7 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
         pageCipher.apply(bytes(result) + at, fixedPage);
         appendLe32(result, crc32next(0, bytes(result) + at, fixedPage));
         result.append(reinterpret_cast<const char *>(chunk) + fixedPage + 4, 4);
-        accumulator.erase(accumulator.begin(), accumulator.begin() + pending);
+        from += pending;
         pending = -1;
         ringAt += decoded;
         if (ringAt >= pieceSize + 10)
@@ -589,8 +583,15 @@ int firmware::recode(QByteArray &body, const unsigned char *key)
         if (last)
             break;
     }
-    body = result;
+    file = result;
     return code;
+}
+
+} // namespace
+
+int firmware::recode(QByteArray &body, const unsigned char *key)
+{
+    return recodeAt(body, 0, key);
 }
 
 int firmware::getFirmwareFromFile(QByteArray &file, int &hw1, int &hw2, const unsigned char *key,
@@ -647,8 +648,10 @@ int firmware::getFirmwareFromFile(QByteArray &file, int &hw1, int &hw2, const un
         return remembered;
     }
     if (type == 1) {
+        if (!wantCompressed)
+            return recodeAt(file, headerSize, key);
         file.remove(0, headerSize);
-        return wantCompressed ? 0 : recode(file, key);
+        return 0;
     }
     return 1;
 }

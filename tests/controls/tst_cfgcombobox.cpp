@@ -5,10 +5,14 @@
 #include "tests/support/testhost.h"
 
 #include <QSignalSpy>
+#include <QStandardItemModel>
 #include <QtTest>
+#include <functional>
 
 using Options = QMap<int, QPair<QString, QString>>;
 Q_DECLARE_METATYPE(Options)
+using HostAction = std::function<void(CfgComboBox &)>;
+Q_DECLARE_METATYPE(HostAction)
 
 namespace {
 QString sheet(const char *colour)
@@ -110,6 +114,54 @@ private slots:
         combo.setError(error);
         combo.updateControl(1);
         QCOMPARE(combo.styleSheet(), expected);
+    }
+
+    // An enabled refresh leaves every item white, whatever the host did to the list since
+    // the last one.
+    void itemsStayWhite_data()
+    {
+        QTest::addColumn<HostAction>("action");
+        const auto red = [](QStandardItem *item) {
+            item->setBackground(Qt::red);
+            return item;
+        };
+        QTest::newRow("item recoloured") << HostAction(
+            [](CfgComboBox &combo) { combo.setItemData(1, QColor(Qt::red), Qt::BackgroundRole); });
+        QTest::newRow("coloured row added") << HostAction([red](CfgComboBox &combo) {
+            qobject_cast<QStandardItemModel *>(combo.model())->appendRow(red(new QStandardItem));
+        });
+        QTest::newRow("other model") << HostAction([red](CfgComboBox &combo) {
+            auto *model = new QStandardItemModel(&combo);
+            model->appendRow(red(new QStandardItem));
+            combo.setModel(model);
+        });
+        QTest::newRow("other column") << HostAction([red](CfgComboBox &combo) {
+            auto *model = qobject_cast<QStandardItemModel *>(combo.model());
+            model->setItem(0, 1, red(new QStandardItem));
+            combo.updateControl(0);
+            combo.setModelColumn(1);
+        });
+        QTest::newRow("other root") << HostAction([red](CfgComboBox &combo) {
+            auto *model = qobject_cast<QStandardItemModel *>(combo.model());
+            model->item(0)->appendRow(red(new QStandardItem));
+            combo.updateControl(0);
+            combo.setRootModelIndex(model->index(0, 0));
+        });
+    }
+
+    void itemsStayWhite()
+    {
+        QFETCH(HostAction, action);
+        TestHost host;
+        host.add(10, 0, "250").options = speeds();
+        CfgComboBox combo;
+        combo.setReference(&host, 10, nullptr, {});
+        combo.updateControl(1);
+        action(combo);
+        combo.updateControl(0);
+        QVERIFY(combo.count() > 0);
+        for (int i = 0; i < combo.count(); ++i)
+            QCOMPARE(combo.itemData(i, Qt::BackgroundRole), QVariant(QColor(Qt::white)));
     }
 
     void keyEditWritesThenSignals()

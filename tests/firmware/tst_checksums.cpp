@@ -5,7 +5,6 @@
 
 #include <QRandomGenerator>
 #include <QtTest>
-#include <zlib.h>
 
 class TestChecksums : public TestCase
 {
@@ -14,7 +13,8 @@ class TestChecksums : public TestCase
 private slots:
     void checkValues_data();
     void checkValues();
-    void crc32AgreesWithZlib();
+    void crc32MatchesBitwise_data();
+    void crc32MatchesBitwise();
 };
 
 void TestChecksums::checkValues_data()
@@ -45,22 +45,52 @@ void TestChecksums::checkValues()
     QCOMPARE(quint32(running), crc16);
 }
 
-void TestChecksums::crc32AgreesWithZlib()
+namespace {
+// The CRC-32 one bit at a time straight from its definition, continued like crc32next.
+quint32 bitwiseCrc32(quint32 crc, const unsigned char *data, int length)
 {
-    QByteArray data(1100, '\0');
+    quint32 state = ~crc;
+    for (int i = 0; i < length; ++i) {
+        state ^= data[i];
+        for (int bit = 0; bit < 8; ++bit)
+            state = (state >> 1) ^ (0xEDB88320u & (0u - (state & 1)));
+    }
+    return ~state;
+}
+} // namespace
+
+void TestChecksums::crc32MatchesBitwise_data()
+{
+    QTest::addColumn<int>("offset");
+    // Every length from 0 to 1100, from an aligned and from misaligned starts.
+    for (int offset : {0, 1, 3, 7})
+        QTest::addRow("start + %d", offset) << offset;
+}
+
+void TestChecksums::crc32MatchesBitwise()
+{
+    QFETCH(int, offset);
+    QByteArray buffer(1100 + offset, '\0');
     QRandomGenerator random(7);
-    for (char &c : data)
+    for (char &c : buffer)
         c = char(random.bounded(256));
-    auto *d = reinterpret_cast<unsigned char *>(data.data());
-    for (int length = 0; length <= data.size(); ++length) {
-        const quint32 expected = quint32(crc32(0, d, uInt(length)));
+    auto *d = reinterpret_cast<unsigned char *>(buffer.data()) + offset;
+    for (int length = 0; length <= 1100; ++length) {
+        const quint32 expected = bitwiseCrc32(0, d, length);
+        QCOMPARE(crc32next(0, d, quint64(length)), expected);
         QCOMPARE(docrc32(d, length), expected);
-        // Continued from any cut, the result is the same.
-        const quint32 first = crc32next(0, d, quint64(length / 3));
-        QCOMPARE(crc32next(first, d + length / 3, quint64(length - length / 3)), expected);
         for (int pageSize : {-7, 0, 1, 24, 1000})
             QCOMPARE(get_whole_crc(d, length, pageSize), expected);
+        // Continued across three pieces, whatever the cuts, and from any earlier value.
+        const int cut1 = length / 3;
+        const int cut2 = length - length / 7;
+        quint32 running = crc32next(0, d, quint64(cut1));
+        running = crc32next(running, d + cut1, quint64(cut2 - cut1));
+        QCOMPARE(crc32next(running, d + cut2, quint64(length - cut2)), expected);
+        QCOMPARE(crc32next(0xA5A5A5A5u, d, quint64(length)), bitwiseCrc32(0xA5A5A5A5u, d, length));
     }
+    QCOMPARE(docrc32(d, -1), 0u);
+    QCOMPARE(crc32next(0x1234u, nullptr, 5), 0x1234u);
 }
 
 QTEST_APPLESS_MAIN(TestChecksums)

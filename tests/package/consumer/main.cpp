@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 class Table : public MainConfigIFace
@@ -48,9 +49,14 @@ int main(int argc, char **argv)
     QByteArray check("123456789");
     QString country, network;
     networkNames(260u << 10 | 3u, country, network);
-    std::printf("Qt %s, min version %d, writes %d, value %d, crc16 %04x, %s / %s\n", qVersion(),
+    std::printf("Qt %s, telecfg %s (built against %s), min version %d, writes %d, value %d, "
+                "crc16 %04x, %s / %s\n",
+                qVersion(), telecfgVersion(), TELECFG_VERSION_STRING,
                 getConfigMinVersion(table.records[3]), table.writes,
                 table.records[3].value.toInt(), unsigned(crc16(check)), qPrintable(country),
                 qPrintable(network));
-    return table.writes == 1 && table.records[3].value.toInt() == 1 && !network.isEmpty() ? 0 : 1;
+    return std::strcmp(telecfgVersion(), TELECFG_VERSION_STRING) == 0 && table.writes == 1 &&
+                   table.records[3].value.toInt() == 1 && !network.isEmpty()
+               ? 0
+               : 1;
 }
