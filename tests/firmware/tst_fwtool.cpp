@@ -5,6 +5,7 @@
 #include "telecfg/firmware/checksums.h"
 #include "telecfg/firmware/firmware.h"
 #include "tests/firmware/payloads.h"
+#include "tests/support/testcase.h"
 #include "tools/telecfg-fw/filereport.h"
 #include "tools/telecfg-fw/fwtool.h"
 
@@ -52,7 +53,7 @@ constexpr int pages = image + 128; // the first page record
 
 } // namespace
 
-class TestFwTool : public QObject
+class TestFwTool : public TestCase
 {
     Q_OBJECT
 

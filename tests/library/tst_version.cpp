@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/version.h"
+#include "tests/support/testcase.h"
 
 #include <QtTest>
 
-class TestVersion : public QObject
+class TestVersion : public TestCase
 {
     Q_OBJECT
 private slots:
