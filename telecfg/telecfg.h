@@ -7,6 +7,7 @@
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/config/mainconfig.h"
+#include "telecfg/config/parametertable.h"
 #include "telecfg/config/parametertypes.h"
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"

@@ -13,9 +13,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-CollectionPanel::CollectionPanel(const DemoTable::Parameter &parameter, MainConfigIFace *host,
-                                 QWidget *rowLabel, QWidget *parent)
-    : QWidget(parent), table(host), ref(parameter.ref), label(rowLabel)
+CollectionPanel::CollectionPanel(int parameterRef, const ParameterTable::Presentation &parameter,
+                                 MainConfigIFace *host, QWidget *rowLabel, QWidget *parent)
+    : QWidget(parent), table(host), ref(parameterRef), label(rowLabel)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

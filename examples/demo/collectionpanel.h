@@ -22,7 +22,7 @@ class CollectionPanel : public QWidget
     Q_OBJECT
 
 public:
-    CollectionPanel(const DemoTable::Parameter &parameter, MainConfigIFace *table,
+    CollectionPanel(int ref, const ParameterTable::Presentation &parameter, MainConfigIFace *table,
                     QWidget *label, QWidget *parent);
 
     FormControl formControl();

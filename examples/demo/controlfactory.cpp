@@ -23,11 +23,10 @@ FormControl makeControl(MainConfigIFace *table, int ref, QWidget *label, Control
 }
 } // namespace
 
-FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigIFace *table,
-                              QWidget *label, QWidget *parent)
+FormControl createFormControl(int ref, const ParameterTable::Presentation &parameter,
+                              MainConfigIFace *table, QWidget *label, QWidget *parent)
 {
     const QString &kind = parameter.control;
-    const int ref = parameter.ref;
     if (kind == QLatin1String("checkbox")) {
         auto *box = new CfgCheckBox(parent);
         box->setText(parameter.text);
@@ -50,6 +49,6 @@ FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigI
         return makeControl(table, ref, label, box);
     }
     if (kind == QLatin1String("list") || kind == QLatin1String("table"))
-        return (new CollectionPanel(parameter, table, label, parent))->formControl();
+        return (new CollectionPanel(ref, parameter, table, label, parent))->formControl();
     return {};
 }

@@ -19,5 +19,5 @@ struct FormControl
 
 // Creates the control the parameter's `control` names ("checkbox", "spinbox", ...), bound to
 // `table`. Returns a null widget for a kind the demo does not know.
-FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigIFace *table,
-                              QWidget *label, QWidget *parent);
+FormControl createFormControl(int ref, const ParameterTable::Presentation &parameter,
+                              MainConfigIFace *table, QWidget *label, QWidget *parent);

@@ -37,7 +37,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     bar->addSeparator();
     bar->addWidget(new QLabel(tr("Sprzęt:"), bar));
     hardwareBox = new QComboBox(bar);
-    for (const DemoTable::Hardware &hardware : qAsConst(table->hardware))
+    for (const ParameterTable::Hardware &hardware : qAsConst(table->hardware))
         hardwareBox->addItem(hardware.name, hardware.id);
     bar->addWidget(hardwareBox);
 
@@ -72,12 +72,12 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     refresh();
     // After each edit the whole form follows (other choices of a radio group, the summary);
     // queued, so it runs once the control has finished its own edit.
-    table->onWrite = [this](int) {
+    connect(table, &ParameterTable::valueChanged, this, [this]() {
         if (!refreshQueued) {
             refreshQueued = true;
             QTimer::singleShot(0, this, &DemoWindow::refresh);
         }
-    };
+    });
     resize(920, 560);
 }
 
@@ -94,15 +94,16 @@ void DemoWindow::buildPages()
         tabs->addTab(scroll, page);
         forms.insert(page, form);
     }
-    for (const DemoTable::Parameter &parameter : qAsConst(table->parameters)) {
+    for (int ref : table->parameters()) {
+        const ParameterTable::Presentation parameter = table->presentation(ref);
         QFormLayout *form = forms.value(parameter.page);
         if (!form || parameter.control.isEmpty())
             continue;
         QWidget *content = form->parentWidget();
         QLabel *label = parameter.label.isEmpty() ? nullptr : new QLabel(parameter.label, content);
-        FormControl control = createFormControl(parameter, table, label, content);
+        FormControl control = createFormControl(ref, parameter, table, label, content);
         if (!control.widget) {
-            qWarning("demo: parameter %d has an unknown control \"%s\"", parameter.ref,
+            qWarning("demo: parameter %d has an unknown control \"%s\"", ref,
                      qPrintable(parameter.control));
             delete label;
             continue;
@@ -130,8 +131,8 @@ void DemoWindow::refresh()
         control.refresh(hardwareId());
     summary->setText(tr("Wersja %1, zmienione parametry: %2, błędne: %3")
                          .arg(table->version())
-                         .arg(table->modifiedCount())
-                         .arg(table->invalidCount()));
+                         .arg(table->modifiedParameters().size())
+                         .arg(table->invalidParameters().size()));
 }
 
 void DemoWindow::save()
@@ -172,15 +173,17 @@ QStringList DemoWindow::renderPages(const QString &dir)
         QCoreApplication::processEvents();
         // File names in plain ASCII: "Sieci komórkowe" becomes "sieci-komorkowe".
         QString name;
-        for (QChar c : tabs->tabText(i).toLower().replace(QChar(0x142), QLatin1Char('l'))
+        for (QChar c : tabs->tabText(i)
+                           .toLower()
+                           .replace(QChar(0x142), QLatin1Char('l'))
                            .normalized(QString::NormalizationForm_D)) {
             if (c.isLetterOrNumber() && c.unicode() < 128)
                 name.append(c);
             else if (c.isSpace())
                 name.append(QLatin1Char('-'));
         }
-        const QString file =
-            QDir(dir).filePath(QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(name));
+        const QString file = QDir(dir).filePath(
+            QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(name));
         if (grab().save(file))
             files.append(file);
     }

@@ -21,8 +21,8 @@ int main(int argc, char **argv)
         QStringLiteral("table"), QStringLiteral("Load the device table from FILE (JSON)."),
         QStringLiteral("FILE"), QStringLiteral(":/demo/sample-table.json"));
     const QCommandLineOption screenshotOption(
-        QStringLiteral("screenshot"), QStringLiteral("Render every page to PNG files in DIR and exit."),
-        QStringLiteral("DIR"));
+        QStringLiteral("screenshot"),
+        QStringLiteral("Render every page to PNG files in DIR and exit."), QStringLiteral("DIR"));
     parser.addOption(tableOption);
     parser.addOption(screenshotOption);
     parser.process(app);
