@@ -15,6 +15,8 @@
 #include "telecfg/controls/cfglineedit.h"
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/cfgspinbox.h"
+#include "telecfg/controls/formbinder.h"
+#include "telecfg/controls/visibility.h"
 #include "telecfg/dialogs/cmddialog.h"
 #include "telecfg/dialogs/dualinputdlg.h"
 #include "telecfg/dialogs/gui.h"
