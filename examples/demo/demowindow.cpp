@@ -5,6 +5,7 @@
 #include "devicemenu.h"
 
 #include "telecfg/dialogs/gui.h"
+#include "telecfg/images/defaultimages.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -23,6 +24,7 @@
 DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     : QMainWindow(parent), table(demoTable), tabs(new QTabWidget(this))
 {
+    initDefaultImages(); // the library's check box, radio button and arrow images
     setWindowTitle(table->title);
     QToolBar *bar = addToolBar(tr("Urządzenie"));
     bar->setMovable(false);

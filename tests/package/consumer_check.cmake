@@ -54,7 +54,7 @@ file(WRITE ${WORK_DIR}/embed/CMakeLists.txt
     "cmake_minimum_required(VERSION 3.25)\nproject(embedding_host CXX)\n"
     "add_subdirectory(${TELECFG_SOURCE_DIR} telecfg)\n"
     "add_executable(embedding_host ${CONSUMER_DIR}/main.cpp)\n"
-    "target_link_libraries(embedding_host PRIVATE telecfg::telecfg)\n")
+    "target_link_libraries(embedding_host PRIVATE telecfg::telecfg telecfg::images)\n")
 run(${CMAKE_COMMAND} -S ${WORK_DIR}/embed -B ${WORK_DIR}/embed/build -G Ninja)
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/embed/build --target help)
 if(last_output MATCHES "tst_|bench_|telecfg-demo")

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 // A tiny host: binds a check box to its own one-record table through the installed library.
+#include <telecfg/images/defaultimages.h>
 #include <telecfg/telecfg.h>
 
 #include <QApplication>
+#include <QImage>
 #include <cstdio>
 
 namespace {
@@ -35,6 +37,8 @@ public:
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
+    initDefaultImages();
+    const bool images = !QImage(QStringLiteral(":images/arrow.png")).isNull();
     setGUILicenseLevel(1);
     Table table;
     table.records[2].value = 10u;
@@ -52,5 +56,7 @@ int main(int argc, char **argv)
                 getConfigMinVersion(table.records[3]), table.writes,
                 table.records[3].value.toInt(), unsigned(crc16(check)), qPrintable(country),
                 qPrintable(network));
-    return table.writes == 1 && table.records[3].value.toInt() == 1 && !network.isEmpty() ? 0 : 1;
+    return table.writes == 1 && table.records[3].value.toInt() == 1 && !network.isEmpty() && images
+               ? 0
+               : 1;
 }
