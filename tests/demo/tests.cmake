@@ -12,3 +12,11 @@ if(TARGET telecfg-demo)
     set_tests_properties(demo_screenshots demo_bad_table PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endif()
+
+# The minimal host comes up with every cfg_ control of its form bound and renders it.
+if(TARGET telecfg-minimal)
+    add_test(NAME minimal_screenshot
+        COMMAND telecfg-minimal --screenshot ${CMAKE_CURRENT_BINARY_DIR}/minimal.png)
+    set_tests_properties(minimal_screenshot PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen" FAIL_REGULAR_EXPRESSION "telecfg-minimal:")
+endif()
