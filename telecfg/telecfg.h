@@ -26,3 +26,4 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
+#include "telecfg/network/networkchooser.h"

@@ -4,7 +4,7 @@
 
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
-#include "telecfg/dialogs/dualinputdlg.h"
+#include "telecfg/network/networkchooser.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -107,17 +107,9 @@ FormControl CollectionPanel::formControl()
 QVariant CollectionPanel::newElement()
 {
     if (networks) {
-        // A mobile network id: the country code above the low 10 bits of the network code.
-        DualInputDlg dialog(0, this);
-        dialog.setWindowTitle(tr("Nowa sieć komórkowa"));
-        dialog.setLabels(tr("Kod kraju (MCC)"), tr("Kod sieci (MNC)"));
-        if (dialog.exec() != QDialog::Accepted)
-            return QVariant();
-        const uint country = dialog.getValue1().toUInt();
-        const uint network = dialog.getValue2().toUInt();
-        if (country == 0 || country > 999 || network > 999)
-            return QVariant();
-        return QVariant(uint(country << 10 | network));
+        // The library's country and operator dialog gives the mobile network id.
+        const std::optional<quint32> network = chooseMobileNetwork(this);
+        return network ? QVariant(uint(*network)) : QVariant();
     }
     if (names)
         return names->currentText().isEmpty() ? QVariant() : QVariant(names->currentText());

@@ -15,7 +15,7 @@ class QPushButton;
 
 // A collection editor with the buttons a host wires to it: an input for the new element,
 // "Dodaj", "Usuń" and "Usuń wszystkie". The input suits the element type: free text for
-// identifiers, the known names for named keys, a country and network code pair for
+// identifiers, the known names for named keys, the country and operator dialog for
 // mobile networks, and one field per column for a table.
 class CollectionPanel : public QWidget
 {
