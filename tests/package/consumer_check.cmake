@@ -11,7 +11,17 @@ endfunction()
 
 file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
-run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --prefix ${prefix})
+# Everything but the Designer plugin, which goes to Qt's own folder (staged below).
+run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --prefix ${prefix} --component Unspecified)
+if(DESIGNER_PLUGIN_DIR)
+    set(ENV{DESTDIR} ${WORK_DIR}/stage)
+    run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --component designer)
+    unset(ENV{DESTDIR})
+    file(GLOB plugin ${WORK_DIR}/stage${DESIGNER_PLUGIN_DIR}/*telecfg_designer*)
+    if(NOT plugin)
+        message(FATAL_ERROR "the Designer plugin is not installed in ${DESIGNER_PLUGIN_DIR}")
+    endif()
+endif()
 
 foreach(private licence_p.h firmwarekeys.h countrycode.h)
     file(GLOB_RECURSE leaked ${prefix}/include/*/${private})

@@ -9,6 +9,7 @@ add_test(NAME package_consumer
         -DWORK_DIR=${CMAKE_CURRENT_BINARY_DIR}/package
         -DCONSUMER_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
         -DSANITIZE=${TELECFG_SANITIZE}
+        -DDESIGNER_PLUGIN_DIR=$<$<TARGET_EXISTS:telecfg_designer>:${TELECFG_DESIGNER_PLUGIN_DIR}>
         -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
 set_tests_properties(package_consumer PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)
