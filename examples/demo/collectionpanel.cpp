@@ -14,8 +14,8 @@
 #include <QVBoxLayout>
 
 CollectionPanel::CollectionPanel(int parameterRef, const ParameterTable::Presentation &parameter,
-                                 MainConfigIFace *host, QWidget *rowLabel, QWidget *parent)
-    : QWidget(parent), table(host), ref(parameterRef), label(rowLabel)
+                                 MainConfigIFace *host, QWidget *parent)
+    : QWidget(parent), table(host), ref(parameterRef)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -46,6 +46,10 @@ CollectionPanel::CollectionPanel(int parameterRef, const ParameterTable::Present
         connect(removeAllButton, &QPushButton::clicked, this, &CollectionPanel::removeAll);
     }
     layout->addWidget(buttons);
+    setObjectName(QStringLiteral("panel_%1").arg(ref));
+    (list ? static_cast<QWidget *>(list) : tableEditor)
+        ->setObjectName(QStringLiteral("cfg_%1").arg(ref));
+    buttons->setObjectName(QStringLiteral("cfg_%1_buttons").arg(ref));
 }
 
 QWidget *CollectionPanel::buildInput(const MainConfigObject &object)
@@ -80,28 +84,6 @@ QWidget *CollectionPanel::buildInput(const MainConfigObject &object)
     input->setPlaceholderText(tr("Nowy identyfikator"));
     inputs.append(input);
     return input;
-}
-
-FormControl CollectionPanel::formControl()
-{
-    FormControl form;
-    form.widget = this;
-    QList<QWidget *> related{buttons};
-    if (label)
-        related.prepend(label);
-    form.bind = [this, related]() {
-        if (list)
-            list->setReference(table, ref, label, related);
-        else
-            tableEditor->setReference(table, ref, label, related);
-    };
-    form.refresh = [this](int hardwareId) {
-        if (list)
-            list->updateControl(hardwareId);
-        else
-            tableEditor->updateControl(hardwareId);
-    };
-    return form;
 }
 
 QVariant CollectionPanel::newElement()

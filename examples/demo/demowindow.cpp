@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "demowindow.h"
+#include "controlfactory.h"
 #include "demotable.h"
 #include "devicemenu.h"
+#include "ui_bluetoothpage.h"
 
 #include "telecfg/dialogs/gui.h"
 #include "telecfg/images/defaultimages.h"
@@ -88,12 +90,19 @@ void DemoWindow::buildPages()
     QMap<QString, QFormLayout *> forms;
     for (const QString &page : qAsConst(table->pages)) {
         auto *scroll = new QScrollArea(tabs);
+        scroll->setWidgetResizable(true);
+        tabs->addTab(scroll, page);
+        // The Bluetooth page is designed in Qt Designer from the plugin's widgets.
+        if (page == QLatin1String("Bluetooth")) {
+            auto *designed = new QWidget(scroll);
+            Ui::BluetoothPage().setupUi(designed);
+            scroll->setWidget(designed);
+            continue;
+        }
         auto *content = new QWidget(scroll);
         auto *form = new QFormLayout(content);
         form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
         scroll->setWidget(content);
-        scroll->setWidgetResizable(true);
-        tabs->addTab(scroll, page);
         forms.insert(page, form);
     }
     for (int ref : table->parameters()) {
@@ -102,23 +111,25 @@ void DemoWindow::buildPages()
         if (!form || parameter.control.isEmpty())
             continue;
         QWidget *content = form->parentWidget();
-        QLabel *label = parameter.label.isEmpty() ? nullptr : new QLabel(parameter.label, content);
-        FormControl control = createFormControl(ref, parameter, table, label, content);
-        if (!control.widget) {
+        QWidget *control = createControl(ref, parameter, table, content);
+        if (!control) {
             qWarning("demo: parameter %d has an unknown control \"%s\"", ref,
                      qPrintable(parameter.control));
-            delete label;
             continue;
         }
-        if (label)
-            form->addRow(label, control.widget);
-        else if (parameter.control == QLatin1String("radiobutton"))
-            form->addRow(QString(), control.widget); // under the group's first choice
-        else
-            form->addRow(control.widget);
-        control.bind();
-        controls.append(control);
+        if (!parameter.label.isEmpty()) {
+            auto *label = new QLabel(parameter.label, content);
+            auto *bound = control->findChild<QWidget *>(QStringLiteral("cfg_%1").arg(ref));
+            label->setBuddy(bound ? bound : control); // the binder hides a control's buddy with it
+            form->addRow(label, control);
+        } else if (parameter.control == QLatin1String("radiobutton")) {
+            form->addRow(QString(), control); // under the group's first choice
+        } else {
+            form->addRow(control);
+        }
     }
+    for (const FormBinder::Problem &problem : binder.bind(tabs, table))
+        qWarning("demo: %s", qPrintable(problem.text()));
 }
 
 int DemoWindow::hardwareId() const
@@ -129,8 +140,7 @@ int DemoWindow::hardwareId() const
 void DemoWindow::refresh()
 {
     refreshQueued = false;
-    for (const FormControl &control : qAsConst(controls))
-        control.refresh(hardwareId());
+    binder.refresh(hardwareId());
     summary->setText(tr("Wersja %1, zmienione parametry: %2, błędne: %3")
                          .arg(table->version())
                          .arg(table->modifiedParameters().size())
@@ -146,9 +156,7 @@ void DemoWindow::save()
 void DemoWindow::revert()
 {
     table->revert();
-    // Binding is what loads a value into a control; a refresh only repaints.
-    for (const FormControl &control : qAsConst(controls))
-        control.bind();
+    binder.rebind(); // binding is what loads a value into a control; a refresh only repaints
     table->revert(); // undo what the controls echoed back while being bound
     refresh();
 }
