@@ -137,9 +137,9 @@ bool CachingItemDelegate::Look::operator==(const Look &other) const
            paletteKey == other.paletteKey && style == other.style;
 }
 
-uint qHash(const CachingItemDelegate::Look &look, uint seed)
+qtcompat::HashValue qHash(const CachingItemDelegate::Look &look, qtcompat::HashValue seed)
 {
-    const uint parts[] = {qHash(look.text, seed),    qHash(look.background),
+    const qtcompat::HashValue parts[] = {qHash(look.text, seed),    qHash(look.background),
                           qHash(look.state),         qHash(look.size.width()),
                           qHash(look.size.height()), qHash(look.paletteKey)};
     return qHashRange(std::begin(parts), std::end(parts), seed);

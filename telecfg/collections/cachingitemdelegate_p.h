@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "telecfg/qtcompat_p.h"
+
 #include <QCache>
 #include <QFont>
 #include <QPixmap>
@@ -58,4 +60,4 @@ private:
     mutable QCache<Look, QPixmap> pixmaps;
 };
 
-uint qHash(const CachingItemDelegate::Look &look, uint seed = 0);
+qtcompat::HashValue qHash(const CachingItemDelegate::Look &look, qtcompat::HashValue seed = 0);

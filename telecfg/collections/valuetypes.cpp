@@ -2,21 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/network/countrytable.h"
+#include "telecfg/qtcompat_p.h"
 
 #include <QHash>
-#include <QSequentialIterable>
 
 namespace {
 template <class Container> int registerContainer(const char *name)
 {
     const int id = qRegisterMetaType<Container>(name);
-    if (!QMetaType::hasRegisteredConverterFunction(
-            id, qMetaTypeId<QtMetaTypePrivate::QSequentialIterableImpl>()))
-        QMetaType::registerConverter<Container, QtMetaTypePrivate::QSequentialIterableImpl>(
-            QtMetaTypePrivate::QSequentialIterableConvertFunctor<Container>());
-    // Lets hosts compare values (QVariant ==) by their elements.
-    if (!QMetaType::hasRegisteredComparators(id))
-        QMetaType::registerEqualsComparator<Container>();
+    // Lets hosts iterate values and compare them (QVariant ==) by their elements.
+    qtcompat::registerSequentialContainer<Container>(id);
     return id;
 }
 
@@ -29,12 +24,12 @@ const QHash<QByteArray, int> &registeredIds()
         result.insert("QVector<quint32>", registerContainer<QVector<quint32>>("QVector<quint32>"));
         result.insert("QVector<QString>", registerContainer<QVector<QString>>("QVector<QString>"));
         const QByteArray bytes =
-            QByteArray("QVector<") + QMetaType::typeName(QMetaType::QByteArray) + '>';
+            QByteArray("QVector<") + qtcompat::typeName(QMetaType::QByteArray) + '>';
         result.insert(bytes, registerContainer<QVector<QByteArray>>(bytes.constData()));
         // A name ending in '>' takes a blank before the closing bracket.
         const QByteArray nested = QByteArray("QVector<") + bytes + " >";
         result.insert(nested, registerContainer<ColumnVectors>(nested.constData()));
-        const QByteArray uints = QByteArray("QList<") + QMetaType::typeName(QMetaType::UInt) + '>';
+        const QByteArray uints = QByteArray("QList<") + qtcompat::typeName(QMetaType::UInt) + '>';
         result.insert(uints, registerContainer<QList<uint>>(uints.constData()));
         result.insert("QList<NamedUShort>",
                       qRegisterMetaType<QList<NamedUShort>>("QList<NamedUShort>"));

@@ -41,10 +41,17 @@ QVariant vectorOf(const QJsonArray &array, int capacity, Convert convert)
     return QVariant::fromValue(vector);
 }
 
+// Texts are no collections here, though Qt 6 can iterate a QString or QByteArray as one.
+bool isSequence(const QVariant &value)
+{
+    return value.canConvert<QVariantList>() && value.userType() != QMetaType::QString &&
+           value.userType() != QMetaType::QByteArray;
+}
+
 QVariantList elementsOf(const QVariant &value)
 {
     QVariantList list;
-    if (!value.canConvert<QVariantList>() || value.userType() == QMetaType::QString)
+    if (!isSequence(value))
         return list;
     const QSequentialIterable iterable = value.value<QSequentialIterable>();
     for (const QVariant &element : iterable)
@@ -120,7 +127,7 @@ bool isEmptyElement(const QVariant &element)
     if (element.userType() == QMetaType::QString)
         return element.toString().isEmpty();
     const QVariantList inner = elementsOf(element);
-    if (!inner.isEmpty() || element.canConvert<QVariantList>())
+    if (!inner.isEmpty() || isSequence(element))
         return std::all_of(inner.begin(), inner.end(), isEmptyElement);
     return element.toUInt() == 0;
 }
@@ -248,7 +255,7 @@ bool sameValue(const QVariant &a, const QVariant &b)
 {
     const QVariantList left = elementsOf(a);
     const QVariantList right = elementsOf(b);
-    if (left.isEmpty() && right.isEmpty() && !a.canConvert<QVariantList>())
+    if (left.isEmpty() && right.isEmpty() && !isSequence(a))
         return sameScalar(a, b);
     if (left.size() != right.size())
         return false;

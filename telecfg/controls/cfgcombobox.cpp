@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/qtcompat_p.h"
 
 #include <QColor>
 #include <QIcon>
@@ -38,8 +39,7 @@ const QString &comboSheet(Colour colour)
 
 CfgComboBox::CfgComboBox(QWidget *parent) : QComboBox(parent)
 {
-    connect(this, SIGNAL(currentIndexChanged(const QString &)), this,
-            SLOT(changed(const QString &)));
+    qtcompat::connectCurrentIndexText(this, this, SLOT(changed(const QString &)));
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/qtcompat_p.h"
 
 #include <QLocale>
 #include <cmath>
@@ -25,7 +26,7 @@ double systemDouble(const QString &text)
 
 CfgDoubleSpinBox::CfgDoubleSpinBox(QWidget *parent) : QDoubleSpinBox(parent)
 {
-    connect(this, SIGNAL(valueChanged(const QString &)), this, SLOT(updateValue(QString)));
+    connect(this, TELECFG_SPINBOX_TEXT_SIGNAL, this, SLOT(updateValue(QString)));
 }
 
 CfgDoubleSpinBox::~CfgDoubleSpinBox() = default;

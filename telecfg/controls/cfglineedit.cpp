@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfglineedit.h"
+#include "telecfg/qtcompat_p.h"
 
 #include <QLocale>
-#include <QRegExp>
-#include <QRegExpValidator>
 
 namespace {
 const QString &redSheet()
@@ -95,7 +94,7 @@ void CfgLineEdit::installValidator(int type)
     if (pattern.isEmpty())
         return;
     // Parented to the control; a later binding leaves this one among its children.
-    setValidator(new QRegExpValidator(QRegExp(pattern, Qt::CaseSensitive, QRegExp::RegExp), this));
+    setValidator(qtcompat::regExpValidator(pattern, this));
 }
 
 void CfgLineEdit::updateText(const QString &text)

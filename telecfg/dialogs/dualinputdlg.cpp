@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/dualinputdlg.h"
+#include "telecfg/qtcompat_p.h"
 #include "ui_dualinputdlg.h"
 
 #include <QLocale>
-#include <QRegExpValidator>
 
 namespace {
 const char integerPattern[] = "^[0-9]\\d{0,5}$";
@@ -25,10 +25,9 @@ DualInputDlg::DualInputDlg(int decimals, QWidget *parent)
     : QDialog(parent), ui(new Ui::DualInputDlg)
 {
     ui->setupUi(this);
-    ui->lineEdit->setValidator(new QRegExpValidator(
-        QRegExp(firstFieldPattern(decimals), Qt::CaseSensitive, QRegExp::RegExp), this));
-    ui->lineEdit_2->setValidator(new QRegExpValidator(
-        QRegExp(QLatin1String(integerPattern), Qt::CaseSensitive, QRegExp::RegExp), this));
+    ui->lineEdit->setValidator(qtcompat::regExpValidator(firstFieldPattern(decimals), this));
+    ui->lineEdit_2->setValidator(
+        qtcompat::regExpValidator(QLatin1String(integerPattern), this));
 }
 
 DualInputDlg::~DualInputDlg()

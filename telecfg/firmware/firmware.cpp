@@ -606,7 +606,7 @@ int firmware::getFirmwareFromFile(QByteArray &file, int &hw1, int &hw2, const un
         return 4;
     encodedSize = readLe32(file, 28);
 
-    const bool tagged = std::memcmp(file.constData() + 24, tag, tagLength) == 0;
+    const bool tagged = file.mid(24, tagLength) == QByteArray::fromRawData(tag, tagLength);
     const quint32 type = readLe32(file, 24);
     const auto openBody = [&](const unsigned char *bodyKey) {
         file.remove(0, headerSize);

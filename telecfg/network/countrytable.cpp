@@ -6,7 +6,7 @@
 #include <QMultiMap>
 #include <QObject>
 
-QMap<quint32, CountryEntry> countryTable;
+NetworkMap<quint32, CountryEntry> countryTable;
 
 void fillCountryTable()
 {

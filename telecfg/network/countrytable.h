@@ -5,6 +5,7 @@
 #include "telecfg/telecfg_export.h"
 
 #include <QMap>
+#include <QMultiMap>
 #include <QString>
 
 // The mobile networks the library knows: country code (E.212 MCC) to country entry, and in
@@ -13,13 +14,22 @@
 //
 // Both levels are multi-maps: a key may occur more than once, the value inserted last stands
 // in front of its key and is the one a lookup finds.
+//
+// Qt 5's QMap holds several values under one key itself; Qt 6 keeps that in QMultiMap only,
+// so the Qt 6 build declares both levels as QMultiMap, with the same order and lookups.
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+template <class Key, class T> using NetworkMap = QMultiMap<Key, T>;
+#else
+template <class Key, class T> using NetworkMap = QMap<Key, T>;
+#endif
+
 struct CountryEntry
 {
     QString name;
-    QMap<quint32, QString> operators;
+    NetworkMap<quint32, QString> operators;
 };
 
-TELECFG_EXPORT extern QMap<quint32, CountryEntry> countryTable;
+TELECFG_EXPORT extern NetworkMap<quint32, CountryEntry> countryTable;
 
 // Network codes with a fixed meaning; the table holds neither.
 constexpr quint32 CodeUnknown = 999;

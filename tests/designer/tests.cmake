@@ -4,10 +4,10 @@
 # library it links. The check links neither telecfg nor the test support, so that the
 # widgets it meets are the plugin's own.
 if(TARGET telecfg_designer)
-    find_package(Qt5 5.15 REQUIRED COMPONENTS UiPlugin)
+    find_package(${TELECFG_QT} ${TELECFG_QT_MINIMUM} REQUIRED COMPONENTS UiPlugin Test)
     add_executable(designer_plugincheck ${CMAKE_CURRENT_LIST_DIR}/plugincheck.cpp)
     set_target_properties(designer_plugincheck PROPERTIES AUTOMOC ON)
-    target_link_libraries(designer_plugincheck PRIVATE Qt5::UiPlugin Qt5::Widgets Qt5::Test)
+    target_link_libraries(designer_plugincheck PRIVATE Qt::UiPlugin Qt::Widgets Qt::Test)
     telecfg_warnings(designer_plugincheck)
     add_dependencies(designer_plugincheck telecfg_designer)
     add_test(NAME designer_plugin COMMAND designer_plugincheck)

@@ -43,9 +43,9 @@ private slots:
 
         // Run by fieldsInOtherLocales in a child process, which says which separator it set.
         const QByteArray forced = qgetenv(separatorVariable);
-        const QChar decimalPoint = QLocale::system().decimalPoint();
+        const QString decimalPoint = QLocale::system().decimalPoint();
         if (!forced.isEmpty())
-            QCOMPARE(decimalPoint, QChar::fromLatin1(forced.at(0)));
+            QCOMPARE(decimalPoint, QString(QChar::fromLatin1(forced.at(0))));
 
         DualInputDlg dialog(decimals);
         auto *edit = dialog.findChild<QLineEdit *>(field == 1 ? "lineEdit" : "lineEdit_2");

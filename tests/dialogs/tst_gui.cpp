@@ -19,13 +19,16 @@ QLabel *addLabel(QGroupBox *box, int weight, const QString &name = QString())
     QFont font = label->font();
     font.setItalic(true);
     if (weight >= 0)
-        font.setWeight(weight);
+        font.setWeight(QFont::Weight(weight));
     label->setFont(font);
     if (!box->layout())
         new QVBoxLayout(box);
     box->layout()->addWidget(label);
     return label;
 }
+
+const int normal = QFont::Normal;
+const int bold = QFont::Bold;
 
 } // namespace
 
@@ -53,11 +56,12 @@ void TestGui::titleBoldChildWeights()
 {
     QGroupBox box(QStringLiteral("Zasilanie"));
     const int pointSize = box.font().pointSize();
-    const QList<int> weights{-1, 25, 57, 58, 87};
+    // By name: Qt 5 weighs fonts 0..99 (Medium 57, Bold 75), Qt 6 100..900 (500, 700).
+    const QList<int> weights{-1, QFont::Light, QFont::Medium, QFont::Medium + 1, QFont::Black};
     QList<QLabel *> labels;
     for (int weight : weights)
         labels << addLabel(&box, weight);
-    labels << addLabel(&box, 75, QStringLiteral("lbVoltage")); // named widgets count too
+    labels << addLabel(&box, QFont::Bold, QStringLiteral("lbVoltage")); // named widgets count too
 
     for (int pass = 0; pass < 2; ++pass) { // a second call keeps the same look
         setGroupBoxTitleBold(&box);
@@ -66,8 +70,8 @@ void TestGui::titleBoldChildWeights()
             got << label->font().weight();
             QVERIFY(label->font().italic());
         }
-        QCOMPARE(got, (QList<int>{50, 50, 50, 75, 75, 75}));
-        QCOMPARE(box.font().weight(), 75);
+        QCOMPARE(got, (QList<int>{normal, normal, normal, bold, bold, bold}));
+        QCOMPARE(box.font().weight(), bold);
         QCOMPARE(box.font().pointSize(), pointSize);
     }
 }
@@ -78,21 +82,21 @@ void TestGui::titleBoldNestedBoxes()
     QLabel *outerLabel = addLabel(&outer, -1);
     auto *inner = new QGroupBox(QStringLiteral("Wewnętrzna"));
     outer.layout()->addWidget(inner);
-    QLabel *innerLabel = addLabel(inner, 87);
+    QLabel *innerLabel = addLabel(inner, QFont::Black);
     const auto weights = [&] {
         return QList<int>{outer.font().weight(), outerLabel->font().weight(),
                           inner->font().weight(), innerLabel->font().weight()};
     };
 
     setGroupBoxTitleBold(&outer); // reaches the grandchild too
-    QCOMPARE(weights(), (QList<int>{75, 50, 50, 75}));
+    QCOMPARE(weights(), (QList<int>{bold, normal, normal, bold}));
     setGroupBoxTitleBold(inner);
     setGroupBoxTitleBold(&outer); // keeps the inner title bold
-    QCOMPARE(weights(), (QList<int>{75, 50, 75, 75}));
+    QCOMPARE(weights(), (QList<int>{bold, normal, bold, bold}));
 
     QGroupBox empty;
     setGroupBoxTitleBold(&empty);
-    QCOMPARE(empty.font().weight(), 75);
+    QCOMPARE(empty.font().weight(), bold);
     setGroupBoxTitleBold(nullptr); // must not crash
 }
 

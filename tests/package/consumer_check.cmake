@@ -17,7 +17,7 @@ if(DESIGNER_PLUGIN_DIR)
     set(ENV{DESTDIR} ${WORK_DIR}/stage)
     run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --component designer)
     unset(ENV{DESTDIR})
-    file(GLOB plugin ${WORK_DIR}/stage${DESIGNER_PLUGIN_DIR}/*telecfg_designer*)
+    file(GLOB plugin ${WORK_DIR}/stage${DESIGNER_PLUGIN_DIR}/*${PACKAGE}_designer*)
     if(NOT plugin)
         message(FATAL_ERROR "the Designer plugin is not installed in ${DESIGNER_PLUGIN_DIR}")
     endif()
@@ -39,23 +39,26 @@ endif()
 
 # 1. find_package against the installed tree.
 run(${CMAKE_COMMAND} -S ${CONSUMER_DIR} -B ${WORK_DIR}/consumer -G Ninja
-    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release ${flags})
+    -DCMAKE_PREFIX_PATH=${prefix} -DTELECFG_PACKAGE=${PACKAGE} -DCMAKE_BUILD_TYPE=Release ${flags})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/consumer)
 run(${WORK_DIR}/consumer/telecfg_consumer)
 message(STATUS "find_package consumer: ${last_output}")
+if(NOT last_output MATCHES "^Qt ${QT_MAJOR}\\.")
+    message(FATAL_ERROR "the ${PACKAGE} consumer runs on another Qt: ${last_output}")
+endif()
 
 # 2. pkg-config names the same library and headers.
 find_program(PKG_CONFIG pkg-config REQUIRED)
 set(ENV{PKG_CONFIG_PATH} ${prefix}/lib/pkgconfig:${prefix}/lib/x86_64-linux-gnu/pkgconfig)
-run(${PKG_CONFIG} --libs telecfg)
-if(NOT last_output MATCHES "-ltelecfg")
-    message(FATAL_ERROR "telecfg.pc does not link telecfg: ${last_output}")
+run(${PKG_CONFIG} --libs ${PACKAGE})
+if(NOT last_output MATCHES "-l${PACKAGE}( |\n|$)")
+    message(FATAL_ERROR "${PACKAGE}.pc does not link ${PACKAGE}: ${last_output}")
 endif()
-run(${PKG_CONFIG} --variable=includedir telecfg)
+run(${PKG_CONFIG} --variable=includedir ${PACKAGE})
 string(STRIP "${last_output}" includedir)
 file(REAL_PATH "${includedir}" includedir)
 if(NOT EXISTS ${includedir}/telecfg/config/mainconfig.h)
-    message(FATAL_ERROR "telecfg.pc points at ${includedir}, which has no telecfg headers")
+    message(FATAL_ERROR "${PACKAGE}.pc points at ${includedir}, which has no telecfg headers")
 endif()
 
 # 3. add_subdirectory: tests, benchmarks and examples stay off for a host that embeds it.
@@ -65,7 +68,8 @@ file(WRITE ${WORK_DIR}/embed/CMakeLists.txt
     "add_subdirectory(${TELECFG_SOURCE_DIR} telecfg)\n"
     "add_executable(embedding_host ${CONSUMER_DIR}/main.cpp)\n"
     "target_link_libraries(embedding_host PRIVATE telecfg::telecfg telecfg::images)\n")
-run(${CMAKE_COMMAND} -S ${WORK_DIR}/embed -B ${WORK_DIR}/embed/build -G Ninja)
+run(${CMAKE_COMMAND} -S ${WORK_DIR}/embed -B ${WORK_DIR}/embed/build -G Ninja
+    -DTELECFG_QT_MAJOR_VERSION=${QT_MAJOR})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/embed/build --target help)
 if(last_output MATCHES "tst_|bench_|telecfg-demo")
     message(FATAL_ERROR "an embedded telecfg builds its own tests or examples:\n${last_output}")

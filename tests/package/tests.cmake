@@ -10,6 +10,8 @@ add_test(NAME package_consumer
         -DCONSUMER_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
         -DSANITIZE=${TELECFG_SANITIZE}
         -DDESIGNER_PLUGIN_DIR=$<$<TARGET_EXISTS:telecfg_designer>:${TELECFG_DESIGNER_PLUGIN_DIR}>
+        -DPACKAGE=${TELECFG_NAME}
+        -DQT_MAJOR=${TELECFG_QT_MAJOR_VERSION}
         -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
 set_tests_properties(package_consumer PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)

@@ -64,7 +64,7 @@ int main(int argc, char **argv)
     FormBinder binder;
     const bool bound = binder.bind(&form, &ready).isEmpty() && ui.cfg_4->value() == 250 &&
                        ui.cfg_5->isChecked() && ui.capacityLabel->buddy() == ui.cfg_4;
-    std::printf("min version %d, writes %d, value %d, crc16 %04x, %s / %s\n",
+    std::printf("Qt %s, min version %d, writes %d, value %d, crc16 %04x, %s / %s\n", qVersion(),
                 getConfigMinVersion(table.records[3]), table.writes, table.records[3].value.toInt(),
                 unsigned(crc16(check)), qPrintable(country), qPrintable(network));
     return table.writes == 1 && table.records[3].value.toInt() == 1 && !network.isEmpty() &&
