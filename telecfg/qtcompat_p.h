@@ -19,8 +19,8 @@
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include <QMetaMethod>
-#include <QtCore5Compat/QRegExp>
 #include <QValidator>
+#include <QtCore5Compat/QRegExp>
 
 // Qt 6 widgets have no validator over QRegExp; this one decides exactly as Qt 5's did, with
 // the same regular expression engine, so every pattern accepts and refuses the same input.
@@ -99,13 +99,63 @@ inline void connectCurrentIndexText(QComboBox *box, QObject *receiver, const cha
         return;
     }
     const QMetaMethod method = receiver->metaObject()->method(index);
-    QObject::connect(box, &QComboBox::currentIndexChanged, receiver,
-                     [box, receiver, method](int item) {
-                         method.invoke(receiver, Qt::DirectConnection,
-                                       Q_ARG(QString, box->itemText(item)));
-                     });
+    QObject::connect(
+        box, &QComboBox::currentIndexChanged, receiver, [box, receiver, method](int item) {
+            method.invoke(receiver, Qt::DirectConnection, Q_ARG(QString, box->itemText(item)));
+        });
 #else
     QObject::connect(box, SIGNAL(currentIndexChanged(const QString &)), receiver, slot);
+#endif
+}
+
+// QVariant equality as the controls have always had it: values of different types are equal
+// when the right one converts to the left one's type and then matches ("2" and 2u), numbers
+// compare by value. Qt 6's operator== no longer converts, so the Qt 6 build does it here.
+inline bool sameValue(const QVariant &left, const QVariant &right)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    if (left.metaType() == right.metaType() || !left.isValid() || !right.isValid())
+        return left == right;
+    const auto numeric = [](const QVariant &v) {
+        switch (v.metaType().id()) {
+        case QMetaType::Bool:
+        case QMetaType::Char:
+        case QMetaType::SChar:
+        case QMetaType::UChar:
+        case QMetaType::Short:
+        case QMetaType::UShort:
+        case QMetaType::Int:
+        case QMetaType::UInt:
+        case QMetaType::Long:
+        case QMetaType::ULong:
+        case QMetaType::LongLong:
+        case QMetaType::ULongLong:
+        case QMetaType::Float:
+        case QMetaType::Double:
+            return true;
+        default:
+            return false;
+        }
+    };
+    if (numeric(left) && numeric(right))
+        return left == right;
+    QVariant converted = right;
+    return converted.convert(left.metaType()) && left == converted;
+#else
+    return left == right;
+#endif
+}
+
+// The first item whose `role` data equals `value` as sameValue has it, or -1.
+inline int findData(const QComboBox *box, const QVariant &value, int role)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    for (int i = 0; i < box->count(); ++i)
+        if (sameValue(value, box->itemData(i, role)))
+            return i;
+    return -1;
+#else
+    return box->findData(value, role, Qt::MatchCaseSensitive);
 #endif
 }
 

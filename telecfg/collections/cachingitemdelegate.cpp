@@ -140,7 +140,7 @@ bool CachingItemDelegate::Look::operator==(const Look &other) const
 qtcompat::HashValue qHash(const CachingItemDelegate::Look &look, qtcompat::HashValue seed)
 {
     const qtcompat::HashValue parts[] = {qHash(look.text, seed),    qHash(look.background),
-                          qHash(look.state),         qHash(look.size.width()),
-                          qHash(look.size.height()), qHash(look.paletteKey)};
+                                         qHash(look.state),         qHash(look.size.width()),
+                                         qHash(look.size.height()), qHash(look.paletteKey)};
     return qHashRange(std::begin(parts), std::end(parts), seed);
 }

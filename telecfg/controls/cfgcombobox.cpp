@@ -72,7 +72,7 @@ void CfgComboBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
 
 void CfgComboBox::selectValue(const QVariant &value)
 {
-    const int index = findData(value, Qt::UserRole, Qt::MatchCaseSensitive);
+    const int index = qtcompat::findData(this, value, Qt::UserRole);
     if (index >= 0)
         setCurrentIndex(index);
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/qtcompat_p.h"
 
 namespace {
 QString radioSheet(const char *checkedImage, int blanks)
@@ -44,7 +45,7 @@ void CfgRadioButton::setReference(MainConfigIFace *iface, int ref, QWidget *labe
     setToolTip(bound.record().toolTip);
     const MainConfigObject &object = bound.record();
     if (object.type == 4)
-        setChecked(QVariant(object.value.toUInt()) == object.minimum);
+        setChecked(qtcompat::sameValue(QVariant(object.value.toUInt()), object.minimum));
     bound.registerIn(this, label);
 }
 
@@ -61,7 +62,7 @@ void CfgRadioButton::change()
 void CfgRadioButton::setSelected(int value)
 {
     if (bound.iface && bound.record().type == 4)
-        setChecked(QVariant(value) == bound.record().minimum);
+        setChecked(qtcompat::sameValue(QVariant(value), bound.record().minimum));
     updateControl(0);
 }
 

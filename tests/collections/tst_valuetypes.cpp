@@ -12,6 +12,7 @@ private slots:
     void initTestCase() { registerCollectionTypes(); }
     void containersByName_data();
     void containersByName();
+    void qtFoldsVectorsIntoLists();
     void networkText_data();
     void networkText();
 };
@@ -45,6 +46,20 @@ void TestValueTypes::containersByName()
     QCOMPARE(QMetaType::type(name.constData()), id);
 #endif
     QCOMPARE(collectionTypeId(name.constData()), id);
+}
+
+// Qt 6 makes QVector<T> the same type as QList<T>: the documented names still find their
+// type, but "QVector<quint32>" and "QList<uint>" become one type under Qt 6's own names.
+void TestValueTypes::qtFoldsVectorsIntoLists()
+{
+    const QVariant vector = QVariant::fromValue(QVector<QByteArray>{});
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QCOMPARE(collectionTypeId("QVector<quint32>"), collectionTypeId("QList<uint>"));
+    QCOMPARE(QByteArray(vector.typeName()), QByteArray("QByteArrayList"));
+#else
+    QVERIFY(collectionTypeId("QVector<quint32>") != collectionTypeId("QList<uint>"));
+    QCOMPARE(QByteArray(vector.typeName()), QByteArray("QVector<QByteArray>"));
+#endif
 }
 
 void TestValueTypes::networkText_data()

@@ -42,6 +42,10 @@ private slots:
         QTest::newRow("contiguous")
             << speeds() << QVariant("250") << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
             << QStringList{"125", "250", "500"} << 1;
+        QTest::newRow("value held as bytes finds its text") // on Qt 6 as on Qt 5
+            << speeds() << QVariant(QByteArray("500"))
+            << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
+            << QStringList{"125", "250", "500"} << 2;
         QTest::newRow("gap leaves blank, key past end lost")
             << Options{{0, {"A", "a"}}, {1, {"B", "b"}}, {5, {"F", "f"}}} << QVariant("f")
             << QStringList{"A", "B", ""} << QStringList{"a", "b", ""} << 0;

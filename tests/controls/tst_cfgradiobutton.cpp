@@ -35,15 +35,28 @@ private slots:
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<bool>("checkedBefore");
         QTest::addColumn<bool>("checked");
+        QTest::addColumn<QVariant>("choice"); // the record's minimum
 
-        QTest::newRow("bound, its choice") << false << 4 << QVariant(2u) << false << true;
-        QTest::newRow("bound, other choice") << false << 4 << QVariant(3u) << true << false;
-        QTest::newRow("bound, value as text") << false << 4 << QVariant("2") << false << true;
-        QTest::newRow("bound, wrong type") << false << 4 << QVariant(QSize(2, 2)) << true << false;
-        QTest::newRow("bound, other type keeps") << false << 1 << QVariant(3u) << true << true;
-        QTest::newRow("selected, its choice") << true << 4 << QVariant(2) << false << true;
-        QTest::newRow("selected, other value") << true << 4 << QVariant(3) << true << false;
-        QTest::newRow("selected, other type") << true << 1 << QVariant(2) << false << false;
+        QTest::newRow("bound, its choice")
+            << false << 4 << QVariant(2u) << false << true << QVariant(2u);
+        QTest::newRow("bound, other choice")
+            << false << 4 << QVariant(3u) << true << false << QVariant(2u);
+        QTest::newRow("bound, value as text")
+            << false << 4 << QVariant("2") << false << true << QVariant(2u);
+        QTest::newRow("bound, wrong type")
+            << false << 4 << QVariant(QSize(2, 2)) << true << false << QVariant(2u);
+        QTest::newRow("bound, other type keeps")
+            << false << 1 << QVariant(3u) << true << true << QVariant(2u);
+        QTest::newRow("selected, its choice")
+            << true << 4 << QVariant(2) << false << true << QVariant(2u);
+        QTest::newRow("selected, other value")
+            << true << 4 << QVariant(3) << true << false << QVariant(2u);
+        QTest::newRow("selected, other type")
+            << true << 1 << QVariant(2) << false << false << QVariant(2u);
+        QTest::newRow("bound, choice held as bytes") // on Qt 6 as on Qt 5
+            << false << 4 << QVariant(2u) << false << true << QVariant(QByteArray("2"));
+        QTest::newRow("selected, choice held as bytes")
+            << true << 4 << QVariant(2) << false << true << QVariant(QByteArray("2"));
     }
 
     void checkedState()
@@ -53,9 +66,10 @@ private slots:
         QFETCH(QVariant, value);
         QFETCH(bool, checkedBefore);
         QFETCH(bool, checked);
+        QFETCH(QVariant, choice);
 
         TestHost host;
-        host.add(10, type, select ? QVariant(0u) : value).minimum = 2u;
+        host.add(10, type, select ? QVariant(0u) : value).minimum = choice;
         host.modified.insert(10);
         CfgRadioButton button;
         button.setAutoExclusive(false); // a lone exclusive button cannot be unchecked

@@ -72,8 +72,7 @@ private slots:
 #else
         const QString list;
 #endif
-        QTest::ignoreMessage(QtDebugMsg,
-                             QRegularExpression("^" + list + "\\(\\d, \\d, \\d\\)$"));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^" + list + "\\(\\d, \\d, \\d\\)$"));
         QTest::ignoreMessage(QtDebugMsg, qPrintable(list + "(1, 2, 3)"));
         QTest::ignoreMessage(QtDebugMsg, "\"x\"");
         Commands commands{{3, "c"}, {1, "a"}, {2, "b"}};
