@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/config/parametertypes.h"
 #include "telecfg/config/parametervalues_p.h"
+#include "telecfg/qtcompat_p.h"
 
 #include <QJsonArray>
 #include <QSequentialIterable>
@@ -79,31 +80,13 @@ QVariantList placesOf(const MainConfigObject &object, const QVariant &value)
     return rows;
 }
 
-bool isNumber(const QVariant &value)
-{
-    switch (value.userType()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Double:
-    case QMetaType::Float:
-    case QMetaType::Short:
-    case QMetaType::UShort:
-        return true;
-    default:
-        return false;
-    }
-}
-
 // The controls write int, uint, bool, double or text, while a table may hold another of
 // these for the same value: numbers compare by value, anything else mixed as text.
 bool sameScalar(const QVariant &a, const QVariant &b)
 {
     if (a.userType() == b.userType())
         return a == b;
-    if (isNumber(a) && isNumber(b))
+    if (qtcompat::isNumeric(a) && qtcompat::isNumeric(b))
         return a.toDouble() == b.toDouble();
     if (!a.isValid() || !b.isValid())
         return false;
