@@ -18,5 +18,5 @@ if(TARGET telecfg-minimal)
     add_test(NAME minimal_screenshot
         COMMAND telecfg-minimal --screenshot ${CMAKE_CURRENT_BINARY_DIR}/minimal.png)
     set_tests_properties(minimal_screenshot PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen" FAIL_REGULAR_EXPRESSION "telecfg-minimal:")
+        ENVIRONMENT "${telecfg_test_environment}" FAIL_REGULAR_EXPRESSION "telecfg-minimal:")
 endif()
