@@ -10,7 +10,7 @@ if(TARGET telecfg-demo)
         COMMAND telecfg-demo --table ${CMAKE_CURRENT_LIST_DIR}/tests.cmake --screenshot ${CMAKE_CURRENT_BINARY_DIR}/none)
     set_tests_properties(demo_bad_table PROPERTIES WILL_FAIL TRUE)
     set_tests_properties(demo_screenshots demo_bad_table PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+        ENVIRONMENT "${telecfg_test_environment}")
 endif()
 
 # The minimal host comes up with every cfg_ control of its form bound and renders it.
