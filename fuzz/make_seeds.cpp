@@ -71,6 +71,8 @@ int main(int argc, char *argv[])
 
         const QByteArray files[] = {form1, form2, form3, form4};
         for (int form = 0; form < 4; ++form) {
+            seed("fileinspection", QStringLiteral("%1-form%2").arg(name).arg(form + 1),
+                 files[form]);
             for (char flags : {0, 1, 2, 4, 5, 16, 18, 20}) {
                 seed("getfirmwarefromfile",
                      QStringLiteral("%1-form%2-flags%3").arg(name).arg(form + 1).arg(int(flags)),

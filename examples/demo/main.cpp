@@ -5,8 +5,11 @@
 #include "demotable.h"
 #include "demowindow.h"
 
+#include "telecfg/translations.h"
+
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QTranslator>
 #include <cstdio>
 
 int main(int argc, char **argv)
@@ -23,9 +26,32 @@ int main(int argc, char **argv)
     const QCommandLineOption screenshotOption(
         QStringLiteral("screenshot"),
         QStringLiteral("Render every page to PNG files in DIR and exit."), QStringLiteral("DIR"));
+    const QCommandLineOption langOption(
+        QStringLiteral("lang"),
+        QStringLiteral("Language of the library's texts: en or pl (default: the system's)."),
+        QStringLiteral("LANG"));
     parser.addOption(tableOption);
     parser.addOption(screenshotOption);
+    parser.addOption(langOption);
     parser.process(app);
+
+    // The library's texts are Polish; any other language comes from its embedded catalogues,
+    // installed before the first of its widgets or its country table is made.
+    telecfgInitTranslations();
+    QTranslator translator;
+    const QLocale language =
+        parser.isSet(langOption) ? QLocale(parser.value(langOption)) : QLocale::system();
+    if (language.language() != QLocale::Polish) {
+        if (translator.load(language, QStringLiteral("telecfg"), QStringLiteral("_"),
+                            QStringLiteral(":/telecfg/translations")))
+            QApplication::installTranslator(&translator);
+        else if (parser.isSet(langOption)) {
+            std::fprintf(stderr,
+                         "telecfg-demo: no translation for --lang %s; there are en and pl.\n",
+                         qPrintable(parser.value(langOption)));
+            return 2;
+        }
+    }
 
     DemoTable table;
     QString error;

@@ -12,6 +12,7 @@ add_test(NAME package_consumer
         -DDESIGNER_PLUGIN_DIR=$<$<TARGET_EXISTS:telecfg_designer>:${TELECFG_DESIGNER_PLUGIN_DIR}>
         -DPACKAGE=${TELECFG_NAME}
         -DQT_MAJOR=${TELECFG_QT_MAJOR_VERSION}
+        -DVERSION=${PROJECT_VERSION}
         -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
 set_tests_properties(package_consumer PROPERTIES
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)

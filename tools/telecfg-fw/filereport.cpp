@@ -44,7 +44,7 @@ QString hex(quint32 value)
 
 } // namespace
 
-FileReport::FileReport(const QByteArray &file)
+FileReport::FileReport(const QByteArray &content) : file(content)
 {
     if (file.size() < 128)
         return;
@@ -73,11 +73,11 @@ QString FileReport::formName(Form form)
 {
     switch (form) {
     case Form::Plain:
-        return QStringLiteral("plain");
+        return QStringLiteral("uncompressed");
     case Form::Compressed:
         return QStringLiteral("compressed");
     case Form::Sealed:
-        return QStringLiteral("sealed");
+        return QStringLiteral("enciphered");
     case Form::Tagged:
         return QStringLiteral("tagged");
     case Form::Unknown:
@@ -153,16 +153,34 @@ void FileReport::readPages()
     }
 }
 
+int FileReport::pagesHolding() const
+{
+    int holding = 0;
+    for (const Page &page : pages)
+        holding += page.stored == page.computed && page.labelHolds;
+    return holding;
+}
+
 bool FileReport::allHold() const
 {
-    if (!headerRead || !headerChecksumHolds() || !imageRead || !nameBlockHolds || !sizeBlockHolds ||
-        !trailerHolds || statedPages != quint32(pages.size()))
-        return false;
-    for (const Page &page : pages) {
-        if (page.stored != page.computed || !page.labelHolds)
-            return false;
-    }
-    return true;
+    return headerRead && headerChecksumHolds() && imageRead && nameBlockHolds && sizeBlockHolds &&
+           trailerHolds && statedPages == quint32(pages.size()) && pagesHolding() == pages.size();
+}
+
+int FileReport::readAsHost(int expectedHw1, QByteArray *result) const
+{
+    int wanted = expectedHw1 < 0 ? hw1 : expectedHw1;
+    int wantedHw2 = hw2;
+    QByteArray read = file;
+    bool wantCompressed = false;
+    unsigned encodedSize = 0;
+    int code = firmware::getFirmwareFromFile(read, wanted, wantedHw2, outerKey, wantCompressed,
+                                             encodedSize, form == Form::Sealed);
+    if (code == 0 && headerRead && hw1 != (expectedHw1 < 0 ? hw1 : expectedHw1))
+        code = 5;
+    if (result)
+        *result = read;
+    return code;
 }
 
 QByteArray FileReport::pagePayload() const
@@ -175,6 +193,11 @@ QByteArray FileReport::pagePayload() const
     return payload;
 }
 
+double FileReport::compressionRatio() const
+{
+    return image.isEmpty() ? 0.0 : double(file.size() - 128) / double(image.size());
+}
+
 QJsonObject FileReport::toJson() const
 {
     QJsonObject header{{QStringLiteral("hw1"), hw1},
@@ -185,7 +208,25 @@ QJsonObject FileReport::toJson() const
                        {QStringLiteral("type"), qint64(type)},
                        {QStringLiteral("size"), qint64(size)},
                        {QStringLiteral("tagged"), tagged}};
-    QJsonObject root{{QStringLiteral("header"), header},
+    QJsonObject checksums{{QStringLiteral("header"), headerRead && headerChecksumHolds()},
+                          {QStringLiteral("nameBlock"), nameBlockHolds},
+                          {QStringLiteral("sizeBlock"), sizeBlockHolds},
+                          {QStringLiteral("pagesHolding"), pagesHolding()},
+                          {QStringLiteral("pageCountHolds"), statedPages == quint32(pages.size())},
+                          {QStringLiteral("trailer"), trailerHolds}};
+    QJsonObject summary{{QStringLiteral("form"), formName(form)},
+                        {QStringLiteral("hw1"), hw1},
+                        {QStringLiteral("hw2"), hw2},
+                        {QStringLiteral("fileSize"), file.size()},
+                        {QStringLiteral("imageSize"), image.size()},
+                        {QStringLiteral("pageCount"), pages.size()},
+                        {QStringLiteral("pageSize"), pageSize},
+                        {QStringLiteral("payloadSize"), pages.size() * pageSize},
+                        {QStringLiteral("compressionRatio"), compressionRatio()},
+                        {QStringLiteral("checksums"), checksums},
+                        {QStringLiteral("verified"), allHold()}};
+    QJsonObject root{{QStringLiteral("summary"), summary},
+                     {QStringLiteral("header"), header},
                      {QStringLiteral("form"), formName(form)},
                      {QStringLiteral("imageRead"), imageRead},
                      {QStringLiteral("verified"), allHold()}};

@@ -12,6 +12,8 @@
 class FileReport
 {
 public:
+    // Plain: the uncompressed form (pages enciphered, body not); Sealed: the whole body
+    // enciphered under the outer key; Tagged: the same, with the tag in the outer header.
     enum class Form { Unknown, Plain, Compressed, Sealed, Tagged };
 
     struct Page
@@ -22,8 +24,12 @@ public:
         bool labelHolds = false;
     };
 
-    explicit FileReport(const QByteArray &file);
+    explicit FileReport(const QByteArray &content);
 
+    QByteArray file;
+
+    // The form's name on the command line and in JSON: compressed, uncompressed,
+    // enciphered, tagged, unknown.
     static QString formName(Form form);
     static constexpr int pageSize = 2048;
 
@@ -55,10 +61,21 @@ public:
     quint32 trailerComputed = 0;
     bool trailerHolds = false;
 
+    // How the configurator reads the file (the reader's return code 0 to 5), with the
+    // hardware word it expects: the file's own when expectedHw1 is negative. The reader drops
+    // its "other hardware" code on the compressed route; this keeps it.
+    int readAsHost(int expectedHw1, QByteArray *result = nullptr) const;
+
     bool headerChecksumHolds() const { return storedChecksum == computedChecksum; }
+    int pagesHolding() const;
+    // Every checksum: the header's, the name block's, the size block's, every page's (with
+    // its label) and the trailer's, and the page count the size block states.
     bool allHold() const;
     // The page payload, deciphered where the pages are enciphered.
     QByteArray pagePayload() const;
+    // The body's size against the image's: below 1 where compression saved room.
+    double compressionRatio() const;
+    // The summary and, under "image", the page table.
     QJsonObject toJson() const;
 
 private:

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QImage>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 class Table : public MainConfigIFace
@@ -64,11 +65,13 @@ int main(int argc, char **argv)
     FormBinder binder;
     const bool bound = binder.bind(&form, &ready).isEmpty() && ui.cfg_4->value() == 250 &&
                        ui.cfg_5->isChecked() && ui.capacityLabel->buddy() == ui.cfg_4;
-    std::printf("Qt %s, min version %d, writes %d, value %d, crc16 %04x, %s / %s\n", qVersion(),
+    std::printf("Qt %s, telecfg %s (built against %s), min version %d, writes %d, value %d, "
+                "crc16 %04x, %s / %s\n",
+                qVersion(), telecfgVersion(), TELECFG_VERSION_STRING,
                 getConfigMinVersion(table.records[3]), table.writes, table.records[3].value.toInt(),
                 unsigned(crc16(check)), qPrintable(country), qPrintable(network));
-    return table.writes == 1 && table.records[3].value.toInt() == 1 && !network.isEmpty() &&
-                   images && bound
+    return std::strcmp(telecfgVersion(), TELECFG_VERSION_STRING) == 0 && table.writes == 1 &&
+                   table.records[3].value.toInt() == 1 && !network.isEmpty() && images && bound
                ? 0
                : 1;
 }
