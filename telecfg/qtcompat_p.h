@@ -108,6 +108,30 @@ inline void connectCurrentIndexText(QComboBox *box, QObject *receiver, const cha
 #endif
 }
 
+// Whether a QVariant holds a number of any width, a bool included.
+inline bool isNumeric(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::Bool:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
 // QVariant equality as the controls have always had it: values of different types are equal
 // when the right one converts to the left one's type and then matches ("2" and 2u), numbers
 // compare by value. Qt 6's operator== no longer converts, so the Qt 6 build does it here.
@@ -116,28 +140,7 @@ inline bool sameValue(const QVariant &left, const QVariant &right)
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     if (left.metaType() == right.metaType() || !left.isValid() || !right.isValid())
         return left == right;
-    const auto numeric = [](const QVariant &v) {
-        switch (v.metaType().id()) {
-        case QMetaType::Bool:
-        case QMetaType::Char:
-        case QMetaType::SChar:
-        case QMetaType::UChar:
-        case QMetaType::Short:
-        case QMetaType::UShort:
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::Long:
-        case QMetaType::ULong:
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-        case QMetaType::Float:
-        case QMetaType::Double:
-            return true;
-        default:
-            return false;
-        }
-    };
-    if (numeric(left) && numeric(right))
+    if (isNumeric(left) && isNumeric(right))
         return left == right;
     QVariant converted = right;
     return converted.convert(left.metaType()) && left == converted;

@@ -4,7 +4,7 @@
 
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
-#include "telecfg/dialogs/dualinputdlg.h"
+#include "telecfg/network/networkchooser.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -13,9 +13,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-CollectionPanel::CollectionPanel(const DemoTable::Parameter &parameter, MainConfigIFace *host,
-                                 QWidget *rowLabel, QWidget *parent)
-    : QWidget(parent), table(host), ref(parameter.ref), label(rowLabel)
+CollectionPanel::CollectionPanel(int parameterRef, const ParameterTable::Presentation &parameter,
+                                 MainConfigIFace *host, QWidget *parent)
+    : QWidget(parent), table(host), ref(parameterRef)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -46,6 +46,10 @@ CollectionPanel::CollectionPanel(const DemoTable::Parameter &parameter, MainConf
         connect(removeAllButton, &QPushButton::clicked, this, &CollectionPanel::removeAll);
     }
     layout->addWidget(buttons);
+    setObjectName(QStringLiteral("panel_%1").arg(ref));
+    (list ? static_cast<QWidget *>(list) : tableEditor)
+        ->setObjectName(QStringLiteral("cfg_%1").arg(ref));
+    buttons->setObjectName(QStringLiteral("cfg_%1_buttons").arg(ref));
 }
 
 QWidget *CollectionPanel::buildInput(const MainConfigObject &object)
@@ -82,42 +86,12 @@ QWidget *CollectionPanel::buildInput(const MainConfigObject &object)
     return input;
 }
 
-FormControl CollectionPanel::formControl()
-{
-    FormControl form;
-    form.widget = this;
-    QList<QWidget *> related{buttons};
-    if (label)
-        related.prepend(label);
-    form.bind = [this, related]() {
-        if (list)
-            list->setReference(table, ref, label, related);
-        else
-            tableEditor->setReference(table, ref, label, related);
-    };
-    form.refresh = [this](int hardwareId) {
-        if (list)
-            list->updateControl(hardwareId);
-        else
-            tableEditor->updateControl(hardwareId);
-    };
-    return form;
-}
-
 QVariant CollectionPanel::newElement()
 {
     if (networks) {
-        // A mobile network id: the country code above the low 10 bits of the network code.
-        DualInputDlg dialog(0, this);
-        dialog.setWindowTitle(tr("Nowa sieć komórkowa"));
-        dialog.setLabels(tr("Kod kraju (MCC)"), tr("Kod sieci (MNC)"));
-        if (dialog.exec() != QDialog::Accepted)
-            return QVariant();
-        const uint country = dialog.getValue1().toUInt();
-        const uint network = dialog.getValue2().toUInt();
-        if (country == 0 || country > 999 || network > 999)
-            return QVariant();
-        return QVariant(uint(country << 10 | network));
+        // The library's country and operator dialog gives the mobile network id.
+        const std::optional<quint32> network = chooseMobileNetwork(this);
+        return network ? QVariant(uint(*network)) : QVariant();
     }
     if (names)
         return names->currentText().isEmpty() ? QVariant() : QVariant(names->currentText());

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controlfactory.h"
+#include "telecfg/config/parametertable.h"
 
 #include <QWidget>
 
@@ -15,17 +15,16 @@ class QPushButton;
 
 // A collection editor with the buttons a host wires to it: an input for the new element,
 // "Dodaj", "Usuń" and "Usuń wszystkie". The input suits the element type: free text for
-// identifiers, the known names for named keys, a country and network code pair for
-// mobile networks, and one field per column for a table.
+// identifiers, the known names for named keys, the country and operator dialog for
+// mobile networks, and one field per column for a table. The editor is named cfg_<ref> and
+// the buttons cfg_<ref>_buttons, so the form binder binds the one and hides the other with it.
 class CollectionPanel : public QWidget
 {
     Q_OBJECT
 
 public:
-    CollectionPanel(const DemoTable::Parameter &parameter, MainConfigIFace *table,
-                    QWidget *label, QWidget *parent);
-
-    FormControl formControl();
+    CollectionPanel(int ref, const ParameterTable::Presentation &parameter, MainConfigIFace *table,
+                    QWidget *parent);
 
 private slots:
     void add();
@@ -38,7 +37,6 @@ private:
 
     MainConfigIFace *table;
     int ref;
-    QWidget *label;
     CfgListWidget *list = nullptr;
     CfgTableWidget *tableEditor = nullptr;
     QWidget *buttons;

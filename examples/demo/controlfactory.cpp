@@ -11,45 +11,43 @@
 #include "telecfg/controls/cfgspinbox.h"
 
 namespace {
-template <class Control>
-FormControl makeControl(MainConfigIFace *table, int ref, QWidget *label, Control *control)
-{
-    FormControl form;
-    form.widget = control;
-    const QList<QWidget *> related = label ? QList<QWidget *>{label} : QList<QWidget *>{};
-    form.bind = [=]() { control->setReference(table, ref, label, related); };
-    form.refresh = [=](int hardwareId) { control->updateControl(hardwareId); };
-    return form;
-}
-} // namespace
-
-FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigIFace *table,
-                              QWidget *label, QWidget *parent)
+QWidget *createWidget(int ref, const ParameterTable::Presentation &parameter, ParameterTable *table,
+                      QWidget *parent)
 {
     const QString &kind = parameter.control;
-    const int ref = parameter.ref;
     if (kind == QLatin1String("checkbox")) {
         auto *box = new CfgCheckBox(parent);
         box->setText(parameter.text);
-        return makeControl(table, ref, label, box);
+        return box;
     }
     if (kind == QLatin1String("radiobutton")) {
         auto *button = new CfgRadioButton(parent);
         button->setText(parameter.text);
-        return makeControl(table, ref, label, button);
+        return button;
     }
     if (kind == QLatin1String("combobox"))
-        return makeControl(table, ref, label, new CfgComboBox(parent));
+        return new CfgComboBox(parent);
     if (kind == QLatin1String("lineedit"))
-        return makeControl(table, ref, label, new CfgLineEdit(parent));
+        return new CfgLineEdit(parent);
     if (kind == QLatin1String("spinbox"))
-        return makeControl(table, ref, label, new CfgSpinBox(parent));
+        return new CfgSpinBox(parent);
     if (kind == QLatin1String("doublespinbox")) {
         auto *box = new CfgDoubleSpinBox(parent);
         box->setDecimals(parameter.decimals); // the host's choice, not the library's
-        return makeControl(table, ref, label, box);
+        return box;
     }
     if (kind == QLatin1String("list") || kind == QLatin1String("table"))
-        return (new CollectionPanel(parameter, table, label, parent))->formControl();
-    return {};
+        return new CollectionPanel(ref, parameter, table, parent);
+    return nullptr;
+}
+} // namespace
+
+QWidget *createControl(int ref, const ParameterTable::Presentation &parameter,
+                       ParameterTable *table, QWidget *parent)
+{
+    QWidget *widget = createWidget(ref, parameter, table, parent);
+    // A collection panel names its editor and its buttons itself.
+    if (widget && widget->objectName().isEmpty())
+        widget->setObjectName(QStringLiteral("cfg_%1").arg(ref));
+    return widget;
 }

@@ -2,22 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "demotable.h"
+#include "telecfg/config/parametertable.h"
 
-#include <QWidget>
-#include <functional>
+class QWidget;
 
-// One bound control of the demo's form, whatever its kind: the demo binds it again after a
-// revert (binding is what loads a value into a control) and refreshes it on every change
-// of version, hardware or licence.
-struct FormControl
-{
-    QWidget *widget = nullptr;
-    std::function<void()> bind;
-    std::function<void(int)> refresh;
-};
-
-// Creates the control the parameter's `control` names ("checkbox", "spinbox", ...), bound to
-// `table`. Returns a null widget for a kind the demo does not know.
-FormControl createFormControl(const DemoTable::Parameter &parameter, MainConfigIFace *table,
-                              QWidget *label, QWidget *parent);
+// Creates the control the parameter's `control` names ("checkbox", "spinbox", ...), named
+// cfg_<ref> so that the form binder binds it. Returns null for a kind the demo does not know.
+QWidget *createControl(int ref, const ParameterTable::Presentation &parameter,
+                       ParameterTable *table, QWidget *parent);

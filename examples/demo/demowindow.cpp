@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "demowindow.h"
+#include "controlfactory.h"
 #include "demotable.h"
 #include "devicemenu.h"
+#include "ui_bluetoothpage.h"
 
 #include "telecfg/dialogs/gui.h"
+#include "telecfg/images/defaultimages.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -23,6 +26,7 @@
 DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     : QMainWindow(parent), table(demoTable), tabs(new QTabWidget(this))
 {
+    initDefaultImages(); // the library's check box, radio button and arrow images
     setWindowTitle(table->title);
     QToolBar *bar = addToolBar(tr("Urządzenie"));
     bar->setMovable(false);
@@ -37,7 +41,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     bar->addSeparator();
     bar->addWidget(new QLabel(tr("Sprzęt:"), bar));
     hardwareBox = new QComboBox(bar);
-    for (const DemoTable::Hardware &hardware : qAsConst(table->hardware))
+    for (const ParameterTable::Hardware &hardware : qAsConst(table->hardware))
         hardwareBox->addItem(hardware.name, hardware.id);
     bar->addWidget(hardwareBox);
 
@@ -72,12 +76,12 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     refresh();
     // After each edit the whole form follows (other choices of a radio group, the summary);
     // queued, so it runs once the control has finished its own edit.
-    table->onWrite = [this](int) {
+    connect(table, &ParameterTable::valueChanged, this, [this]() {
         if (!refreshQueued) {
             refreshQueued = true;
             QTimer::singleShot(0, this, &DemoWindow::refresh);
         }
-    };
+    });
     resize(920, 560);
 }
 
@@ -86,36 +90,46 @@ void DemoWindow::buildPages()
     QMap<QString, QFormLayout *> forms;
     for (const QString &page : qAsConst(table->pages)) {
         auto *scroll = new QScrollArea(tabs);
+        scroll->setWidgetResizable(true);
+        tabs->addTab(scroll, page);
+        // The Bluetooth page is designed in Qt Designer from the plugin's widgets.
+        if (page == QLatin1String("Bluetooth")) {
+            auto *designed = new QWidget(scroll);
+            Ui::BluetoothPage().setupUi(designed);
+            scroll->setWidget(designed);
+            continue;
+        }
         auto *content = new QWidget(scroll);
         auto *form = new QFormLayout(content);
         form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
         scroll->setWidget(content);
-        scroll->setWidgetResizable(true);
-        tabs->addTab(scroll, page);
         forms.insert(page, form);
     }
-    for (const DemoTable::Parameter &parameter : qAsConst(table->parameters)) {
+    for (int ref : table->parameters()) {
+        const ParameterTable::Presentation parameter = table->presentation(ref);
         QFormLayout *form = forms.value(parameter.page);
         if (!form || parameter.control.isEmpty())
             continue;
         QWidget *content = form->parentWidget();
-        QLabel *label = parameter.label.isEmpty() ? nullptr : new QLabel(parameter.label, content);
-        FormControl control = createFormControl(parameter, table, label, content);
-        if (!control.widget) {
-            qWarning("demo: parameter %d has an unknown control \"%s\"", parameter.ref,
+        QWidget *control = createControl(ref, parameter, table, content);
+        if (!control) {
+            qWarning("demo: parameter %d has an unknown control \"%s\"", ref,
                      qPrintable(parameter.control));
-            delete label;
             continue;
         }
-        if (label)
-            form->addRow(label, control.widget);
-        else if (parameter.control == QLatin1String("radiobutton"))
-            form->addRow(QString(), control.widget); // under the group's first choice
-        else
-            form->addRow(control.widget);
-        control.bind();
-        controls.append(control);
+        if (!parameter.label.isEmpty()) {
+            auto *label = new QLabel(parameter.label, content);
+            auto *bound = control->findChild<QWidget *>(QStringLiteral("cfg_%1").arg(ref));
+            label->setBuddy(bound ? bound : control); // the binder hides a control's buddy with it
+            form->addRow(label, control);
+        } else if (parameter.control == QLatin1String("radiobutton")) {
+            form->addRow(QString(), control); // under the group's first choice
+        } else {
+            form->addRow(control);
+        }
     }
+    for (const FormBinder::Problem &problem : binder.bind(tabs, table))
+        qWarning("demo: %s", qPrintable(problem.text()));
 }
 
 int DemoWindow::hardwareId() const
@@ -126,12 +140,11 @@ int DemoWindow::hardwareId() const
 void DemoWindow::refresh()
 {
     refreshQueued = false;
-    for (const FormControl &control : qAsConst(controls))
-        control.refresh(hardwareId());
+    binder.refresh(hardwareId());
     summary->setText(tr("Wersja %1, zmienione parametry: %2, błędne: %3")
                          .arg(table->version())
-                         .arg(table->modifiedCount())
-                         .arg(table->invalidCount()));
+                         .arg(table->modifiedParameters().size())
+                         .arg(table->invalidParameters().size()));
 }
 
 void DemoWindow::save()
@@ -143,9 +156,7 @@ void DemoWindow::save()
 void DemoWindow::revert()
 {
     table->revert();
-    // Binding is what loads a value into a control; a refresh only repaints.
-    for (const FormControl &control : qAsConst(controls))
-        control.bind();
+    binder.rebind(); // binding is what loads a value into a control; a refresh only repaints
     table->revert(); // undo what the controls echoed back while being bound
     refresh();
 }
@@ -172,15 +183,17 @@ QStringList DemoWindow::renderPages(const QString &dir)
         QCoreApplication::processEvents();
         // File names in plain ASCII: "Sieci komórkowe" becomes "sieci-komorkowe".
         QString name;
-        for (QChar c : tabs->tabText(i).toLower().replace(QChar(0x142), QLatin1Char('l'))
+        for (QChar c : tabs->tabText(i)
+                           .toLower()
+                           .replace(QChar(0x142), QLatin1Char('l'))
                            .normalized(QString::NormalizationForm_D)) {
             if (c.isLetterOrNumber() && c.unicode() < 128)
                 name.append(c);
             else if (c.isSpace())
                 name.append(QLatin1Char('-'));
         }
-        const QString file =
-            QDir(dir).filePath(QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(name));
+        const QString file = QDir(dir).filePath(
+            QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(name));
         if (grab().save(file))
             files.append(file);
     }

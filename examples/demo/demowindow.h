@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "controlfactory.h"
+#include "telecfg/controls/formbinder.h"
 
 #include <QMainWindow>
 
@@ -45,6 +45,6 @@ private:
     QSpinBox *licenceBox;
     QLabel *summary;
     DeviceMenu *deviceMenu;
-    QList<FormControl> controls;
+    FormBinder binder;
     bool refreshQueued = false;
 };

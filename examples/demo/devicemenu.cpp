@@ -19,9 +19,9 @@
 namespace {
 QHash<int, QString> sampleCommands()
 {
-    return {{0, QStringLiteral("getver")},     {1, QStringLiteral("getgps")},
-            {2, QStringLiteral("getio")},      {3, QStringLiteral("setdigout 1")},
-            {4, QStringLiteral("getfuel")},    {5, QStringLiteral("cpureset")},
+    return {{0, QStringLiteral("getver")},   {1, QStringLiteral("getgps")},
+            {2, QStringLiteral("getio")},    {3, QStringLiteral("setdigout 1")},
+            {4, QStringLiteral("getfuel")},  {5, QStringLiteral("cpureset")},
             {8, QStringLiteral("btgetlist")}};
 }
 
@@ -60,9 +60,9 @@ void DeviceMenu::tick()
     ++ticks;
     const double volts = 12.4 + 1.6 * qSin(ticks / 3.0);
     voltage->setValue(QStringLiteral("%1 V").arg(volts, 0, 'f', 1),
-                      volts < 11.5 ? StatusLabel::StateRed
-                                   : (volts < 12.0 ? StatusLabel::StateOrange
-                                                   : StatusLabel::StateGreen),
+                      volts < 11.5
+                          ? StatusLabel::StateRed
+                          : (volts < 12.0 ? StatusLabel::StateOrange : StatusLabel::StateGreen),
                       false, 0);
     const int sats = 3 + (ticks * 5) % 8;
     satellites->setValue(tr("GPS: %1 sat.").arg(sats),

@@ -25,25 +25,34 @@ void BoundControl::registerIn(QWidget *control, QWidget *label) const
     object.label = label;
 }
 
+HiddenReason hiddenReason(MainConfigIFace &iface, int ref, int hardwareId)
+{
+    const quint32 version = iface.object(2).value.toUInt();
+    MainConfigObject &record = iface.object(ref);
+    const quint32 minimum = getConfigMinVersion(record);
+    const quint32 maximum = getConfigMaxVersion(record);
+    if (version < minimum) {
+        const bool ranged =
+            record.minVersions.contains(record.versionKey) || record.minVersions.contains(0);
+        return ranged ? HiddenReason::BelowVersionRange : HiddenReason::NoVersionRange;
+    }
+    if (maximum != 0 && version > maximum)
+        return HiddenReason::AboveVersionRange;
+    const QList<int> &ids = record.hardwareIds;
+    if (!ids.isEmpty() && !ids.contains(hardwareId))
+        return HiddenReason::HardwareNotListed;
+    if (record.hidden)
+        return HiddenReason::HiddenOnRequest;
+    if (record.licenceGate > guiLicenseLevel())
+        return HiddenReason::ClosedByLicence;
+    return HiddenReason::Shown;
+}
+
 bool BoundControl::isHiddenNow(int id)
 {
     if (id != 0)
         hardwareId = id;
-    const quint32 version = iface->object(2).value.toUInt();
-    // Fetched once after the version: nothing calls the host while it is read.
-    MainConfigObject &object = record();
-    const quint32 minimum = getConfigMinVersion(object);
-    const quint32 maximum = getConfigMaxVersion(object);
-    if (version < minimum)
-        return true;
-    if (maximum != 0 && version > maximum)
-        return true;
-    const QList<int> &ids = object.hardwareIds;
-    if (!ids.isEmpty() && !ids.contains(hardwareId))
-        return true;
-    if (object.hidden)
-        return true;
-    return object.licenceGate > guiLicenseLevel();
+    return hiddenReason(*iface, reference, hardwareId) != HiddenReason::Shown;
 }
 
 bool BoundControl::refreshVisibility(QWidget *self, int id)

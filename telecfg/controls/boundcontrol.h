@@ -3,6 +3,7 @@
 #pragma once
 
 #include "telecfg/config/mainconfig.h"
+#include "telecfg/controls/visibility.h"
 
 #include <QList>
 #include <QPointer>

@@ -10,3 +10,6 @@ foreach(suite tst_cfglineedit tst_cfgdoublespinbox)
     set_tests_properties(${suite}_comma PROPERTIES ENVIRONMENT
         "${telecfg_test_environment};LC_ALL=pl_PL.UTF-8;LANG=pl_PL.UTF-8")
 endforeach()
+
+# The default images come from their own optional library.
+target_link_libraries(tst_defaultimages PRIVATE telecfg_images)

@@ -10,5 +10,13 @@ if(TARGET telecfg-demo)
         COMMAND telecfg-demo --table ${CMAKE_CURRENT_LIST_DIR}/tests.cmake --screenshot ${CMAKE_CURRENT_BINARY_DIR}/none)
     set_tests_properties(demo_bad_table PROPERTIES WILL_FAIL TRUE)
     set_tests_properties(demo_screenshots demo_bad_table PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+        ENVIRONMENT "${telecfg_test_environment}")
+endif()
+
+# The minimal host comes up with every cfg_ control of its form bound and renders it.
+if(TARGET telecfg-minimal)
+    add_test(NAME minimal_screenshot
+        COMMAND telecfg-minimal --screenshot ${CMAKE_CURRENT_BINARY_DIR}/minimal.png)
+    set_tests_properties(minimal_screenshot PROPERTIES
+        ENVIRONMENT "${telecfg_test_environment}" FAIL_REGULAR_EXPRESSION "telecfg-minimal:")
 endif()

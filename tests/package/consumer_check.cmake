@@ -11,7 +11,17 @@ endfunction()
 
 file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
-run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --prefix ${prefix})
+# Everything but the Designer plugin, which goes to Qt's own folder (staged below).
+run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --prefix ${prefix} --component Unspecified)
+if(DESIGNER_PLUGIN_DIR)
+    set(ENV{DESTDIR} ${WORK_DIR}/stage)
+    run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --component designer)
+    unset(ENV{DESTDIR})
+    file(GLOB plugin ${WORK_DIR}/stage${DESIGNER_PLUGIN_DIR}/*${PACKAGE}_designer*)
+    if(NOT plugin)
+        message(FATAL_ERROR "the Designer plugin is not installed in ${DESIGNER_PLUGIN_DIR}")
+    endif()
+endif()
 
 foreach(private licence_p.h firmwarekeys.h countrycode.h)
     file(GLOB_RECURSE leaked ${prefix}/include/*/${private})
@@ -71,7 +81,7 @@ file(WRITE ${WORK_DIR}/embed/CMakeLists.txt
     "cmake_minimum_required(VERSION 3.25)\nproject(embedding_host CXX)\n"
     "add_subdirectory(${TELECFG_SOURCE_DIR} telecfg)\n"
     "add_executable(embedding_host ${CONSUMER_DIR}/main.cpp)\n"
-    "target_link_libraries(embedding_host PRIVATE telecfg::telecfg)\n")
+    "target_link_libraries(embedding_host PRIVATE telecfg::telecfg telecfg::images)\n")
 run(${CMAKE_COMMAND} -S ${WORK_DIR}/embed -B ${WORK_DIR}/embed/build -G Ninja
     -DTELECFG_QT_MAJOR_VERSION=${QT_MAJOR})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/embed/build --target help)

@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
-#include "demovalues.h"
+#include "telecfg/config/parametertypes.h"
+#include "telecfg/config/parametervalues_p.h"
+#include "telecfg/qtcompat_p.h"
 
 #include <QJsonArray>
 #include <QSequentialIterable>
 #include <QVector>
 #include <algorithm>
 
+namespace parametervalues {
 namespace {
 // Collection types by the record's type code; tables carry no type of their own.
 enum class Shape { Scalar, UShorts, UInts, Bytes, Strings, Table };
@@ -16,14 +19,14 @@ Shape shapeOf(const MainConfigObject &object)
     if (object.columnListA.isValid())
         return Shape::Table;
     switch (object.type) {
-    case 8:
+    case ParameterType::UShortList:
         return Shape::UShorts;
-    case 24:
-    case 29:
+    case ParameterType::UIntList:
+    case ParameterType::NetworkList:
         return Shape::UInts;
-    case 20:
+    case ParameterType::ByteArrayList:
         return Shape::Bytes;
-    case 13:
+    case ParameterType::StringList:
         return Shape::Strings;
     default:
         return Shape::Scalar;
@@ -77,6 +80,29 @@ QVariantList placesOf(const MainConfigObject &object, const QVariant &value)
     return rows;
 }
 
+// The controls write int, uint, bool, double or text, while a table may hold another of
+// these for the same value: numbers compare by value, anything else mixed as text.
+bool sameScalar(const QVariant &a, const QVariant &b)
+{
+    if (a.userType() == b.userType())
+        return a == b;
+    if (qtcompat::isNumeric(a) && qtcompat::isNumeric(b))
+        return a.toDouble() == b.toDouble();
+    if (!a.isValid() || !b.isValid())
+        return false;
+    return a.toString() == b.toString();
+}
+
+// A number stays a JSON number; a text that reads as a whole number is written as one.
+QJsonValue cellToJson(const QByteArray &cell)
+{
+    bool ok = false;
+    const int number = cell.toInt(&ok);
+    if (ok && QByteArray::number(number) == cell)
+        return number;
+    return QString::fromLatin1(cell);
+}
+
 bool isEmptyElement(const QVariant &element)
 {
     if (element.userType() == QMetaType::QByteArray)
@@ -90,7 +116,7 @@ bool isEmptyElement(const QVariant &element)
 }
 } // namespace
 
-QVariant demoValue(const MainConfigObject &object, const QJsonValue &json)
+QVariant fromJson(const MainConfigObject &object, const QJsonValue &json)
 {
     const QJsonArray array = json.toArray();
     switch (shapeOf(object)) {
@@ -101,9 +127,8 @@ QVariant demoValue(const MainConfigObject &object, const QJsonValue &json)
         return vectorOf<quint32>(array, object.capacity,
                                  [](const QJsonValue &v) { return quint32(v.toDouble()); });
     case Shape::Bytes:
-        return vectorOf<QByteArray>(array, object.capacity, [](const QJsonValue &v) {
-            return v.toString().toUtf8();
-        });
+        return vectorOf<QByteArray>(array, object.capacity,
+                                    [](const QJsonValue &v) { return v.toString().toUtf8(); });
     case Shape::Strings:
         return vectorOf<QString>(array, object.capacity,
                                  [](const QJsonValue &v) { return v.toString(); });
@@ -124,7 +149,7 @@ QVariant demoValue(const MainConfigObject &object, const QJsonValue &json)
     }
     // Scalars keep the type their control writes back, so that stored and current compare.
     const QString control = json.toVariant().toString();
-    if (object.type == 22)
+    if (object.type == ParameterType::IntFlag)
         return json.toInt();
     if (json.isBool())
         return json.toBool();
@@ -135,7 +160,7 @@ QVariant demoValue(const MainConfigObject &object, const QJsonValue &json)
     return json.toInt();
 }
 
-void applyCollectionShape(MainConfigObject &object, const QJsonObject &json)
+void readCollectionShape(MainConfigObject &object, const QJsonObject &json)
 {
     const QJsonArray columns = json.value(QLatin1String("columns")).toArray();
     if (!columns.isEmpty()) {
@@ -146,17 +171,62 @@ void applyCollectionShape(MainConfigObject &object, const QJsonObject &json)
         object.columnListB = QVariant::fromValue(list);
     }
     const QJsonObject names = json.value(QLatin1String("names")).toObject();
-    if (!names.isEmpty() && object.type == 24) {
+    if (!names.isEmpty() && object.type == ParameterType::UIntList) {
         QList<NamedUInt> list;
         for (auto it = names.begin(); it != names.end(); ++it)
             list.append({it.key().toUInt(), it.value().toString()});
         object.valueNames = QVariant::fromValue(list);
-    } else if (!names.isEmpty() && object.type == 8) {
+    } else if (!names.isEmpty() && object.type == ParameterType::UShortList) {
         QList<NamedUShort> list;
         for (auto it = names.begin(); it != names.end(); ++it)
             list.append({quint16(it.key().toUInt()), it.value().toString()});
         object.valueNames = QVariant::fromValue(list);
     }
+}
+
+QJsonValue toJson(const MainConfigObject &object, const QVariant &value)
+{
+    const Shape shape = shapeOf(object);
+    if (shape == Shape::Scalar)
+        return QJsonValue::fromVariant(value);
+    // Collections leave out trailing free places: the loader fills up to the capacity.
+    QVariantList places = placesOf(object, value);
+    while (!places.isEmpty() && isEmptyElement(places.last()))
+        places.removeLast();
+    QJsonArray array;
+    for (const QVariant &place : qAsConst(places)) {
+        if (shape == Shape::Table) {
+            QJsonArray cells;
+            for (const QVariant &cell : place.toList())
+                cells.append(cellToJson(cell.toByteArray()));
+            array.append(cells);
+        } else if (shape == Shape::Bytes) {
+            array.append(QString::fromUtf8(place.toByteArray()));
+        } else if (shape == Shape::Strings) {
+            array.append(place.toString());
+        } else {
+            array.append(place.toDouble());
+        }
+    }
+    return array;
+}
+
+void writeCollectionShape(const MainConfigObject &object, QJsonObject &json)
+{
+    const QList<uint> columns = object.columnListA.value<QList<uint>>();
+    if (!columns.isEmpty()) {
+        QJsonArray list;
+        for (uint column : columns)
+            list.append(int(column));
+        json.insert(QLatin1String("columns"), list);
+    }
+    QJsonObject names;
+    for (const NamedUInt &named : object.valueNames.value<QList<NamedUInt>>())
+        names.insert(QString::number(named.value), named.name);
+    for (const NamedUShort &named : object.valueNames.value<QList<NamedUShort>>())
+        names.insert(QString::number(named.value), named.name);
+    if (!names.isEmpty())
+        json.insert(QLatin1String("names"), names);
 }
 
 bool isCollection(const MainConfigObject &object)
@@ -169,7 +239,7 @@ bool sameValue(const QVariant &a, const QVariant &b)
     const QVariantList left = elementsOf(a);
     const QVariantList right = elementsOf(b);
     if (left.isEmpty() && right.isEmpty() && !isSequence(a))
-        return a == b;
+        return sameScalar(a, b);
     if (left.size() != right.size())
         return false;
     for (int i = 0; i < left.size(); ++i)
@@ -190,7 +260,7 @@ QList<int> differingElements(const MainConfigObject &object, const QVariant &cur
     return places;
 }
 
-QList<int> invalidElements(const MainConfigObject &object, const QJsonObject &rules)
+QList<int> invalidElements(const MainConfigObject &object, bool numericCells)
 {
     const QVariantList elements = placesOf(object, object.value);
     QList<int> places;
@@ -204,9 +274,10 @@ QList<int> invalidElements(const MainConfigObject &object, const QJsonObject &ru
         };
         bool repeated = false;
         for (int j = 0; j < i && !repeated; ++j)
-            repeated = !isEmptyElement(key(elements[j])) && sameValue(key(elements[i]), key(elements[j]));
+            repeated =
+                !isEmptyElement(key(elements[j])) && sameValue(key(elements[i]), key(elements[j]));
         bool badCell = false;
-        if (rules.value(QLatin1String("numericCells")).toBool()) {
+        if (numericCells) {
             for (const QVariant &cell : elements[i].toList()) {
                 const QByteArray text = cell.toByteArray();
                 bool ok = true;
@@ -226,11 +297,12 @@ bool containsElement(const MainConfigObject &object, const QVariant &collection,
 {
     for (const QVariant &stored : placesOf(object, collection)) {
         // A table asks about a row by its identifier, the first cell.
-        const QVariant candidate = shapeOf(object) == Shape::Table
-                                       ? stored.toList().value(0)
-                                       : stored;
+        const QVariant candidate =
+            shapeOf(object) == Shape::Table ? stored.toList().value(0) : stored;
         if (sameValue(candidate, element))
             return true;
     }
     return false;
 }
+
+} // namespace parametervalues

@@ -1,0 +1,448 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
+#include "telecfg/config/parametertable.h"
+#include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/parametervalues_p.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocale>
+#include <QRegularExpression>
+
+using namespace parametervalues;
+
+namespace {
+QLatin1String key(const char *name)
+{
+    return QLatin1String(name);
+}
+
+// A version map is a number (key 0) or an object by version key.
+QMap<int, int> versionMap(const QJsonValue &json)
+{
+    QMap<int, int> map;
+    if (json.isDouble())
+        map[0] = json.toInt();
+    const QJsonObject byKey = json.toObject();
+    for (auto it = byKey.begin(); it != byKey.end(); ++it)
+        map[it.key().toInt()] = it.value().toInt();
+    return map;
+}
+
+QJsonValue versionJson(const QMap<int, int> &map)
+{
+    if (map.size() == 1 && map.contains(0))
+        return map.value(0);
+    QJsonObject byKey;
+    for (auto it = map.begin(); it != map.end(); ++it)
+        byKey.insert(QString::number(it.key()), it.value());
+    return byKey;
+}
+
+// JSON numbers are doubles; whole ones become ints, as a host's table would hold them.
+QVariant scalar(const QJsonValue &json)
+{
+    if (json.isDouble() && json.toDouble() == double(json.toInt()))
+        return json.toInt();
+    return json.toVariant();
+}
+
+QJsonValue scalarJson(const QVariant &value)
+{
+    return value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue();
+}
+
+bool readNumber(const QVariant &value, double *number)
+{
+    bool ok = false;
+    *number = QLocale::system().toDouble(value.toString(), &ok);
+    if (!ok)
+        *number = value.toString().toDouble(&ok);
+    return ok;
+}
+} // namespace
+
+ParameterTable::ParameterTable(QObject *parent) : QObject(parent)
+{
+    registerCollectionTypes();
+}
+
+ParameterTable::~ParameterTable() = default;
+
+void ParameterTable::clear()
+{
+    records.clear();
+    entries.clear();
+    order.clear();
+    title.clear();
+    pages.clear();
+    versions.clear();
+    hardware.clear();
+}
+
+bool ParameterTable::loadJson(const QByteArray &json, QString *error)
+{
+    clear();
+    auto fail = [this, error](const QString &why) {
+        clear();
+        if (error)
+            *error = why;
+        return false;
+    };
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
+    if (!document.isObject())
+        return fail(parseError.error == QJsonParseError::NoError
+                        ? QStringLiteral("the table is no JSON object")
+                        : parseError.errorString());
+    const QJsonObject root = document.object();
+    title = root.value(key("title")).toString();
+    for (const QJsonValue &page : root.value(key("pages")).toArray())
+        pages.append(page.toString());
+    for (const QJsonValue &version : root.value(key("versions")).toArray())
+        versions.append(version.toInt());
+    for (const QJsonValue &entry : root.value(key("hardware")).toArray())
+        hardware.append({entry[key("id")].toInt(), entry[key("name")].toString()});
+    setVersion(quint32(root.value(key("version")).toInt()));
+
+    for (const QJsonValue &item : root.value(key("parameters")).toArray()) {
+        const QJsonObject json = item.toObject();
+        const int ref = json.value(key("ref")).toInt();
+        if (ref <= 2 || contains(ref))
+            return fail(QStringLiteral("parameter %1 is reserved or repeated").arg(ref));
+        MainConfigObject object;
+        object.type = json.value(key("type")).toInt();
+        object.toolTip = json.value(key("toolTip")).toString();
+        object.step = json.value(key("step")).toInt(1);
+        object.capacity = json.value(key("capacity")).toInt();
+        object.minimum = scalar(json.value(key("minimum")));
+        object.maximum = scalar(json.value(key("maximum")));
+        object.minVersions = versionMap(json.value(key("minVersion")));
+        object.maxVersions = versionMap(json.value(key("maxVersion")));
+        object.versionKey = json.value(key("versionKey")).toInt();
+        object.licenceGate = json.value(key("licence")).toInt();
+        for (const QJsonValue &id : json.value(key("hardware")).toArray())
+            object.hardwareIds.append(id.toInt());
+        const QJsonArray options = json.value(key("options")).toArray();
+        for (int i = 0; i < options.size(); ++i)
+            object.options[i] = {options[i][0].toString(), options[i][1].toString()};
+        object.columnTitles = json.value(key("columnTitles")).toVariant().toStringList();
+        readCollectionShape(object, json);
+        object.value = fromJson(object, json.value(key("value")));
+        addRecord(ref, object);
+        if (json.contains(key("stored")))
+            setStoredValue(ref, fromJson(object, json.value(key("stored"))));
+        setGroup(ref, json.value(key("group")).toInt());
+
+        const QJsonObject ruleJson = json.value(key("rules")).toObject();
+        Rules rules;
+        rules.minimum = scalar(ruleJson.value(key("min")));
+        rules.maximum = scalar(ruleJson.value(key("max")));
+        rules.maxLength = ruleJson.value(key("maxLength")).toInt(-1);
+        rules.pattern = ruleJson.value(key("pattern")).toString();
+        rules.numericCells = ruleJson.value(key("numericCells")).toBool();
+        setRules(ref, rules);
+        Presentation presentation;
+        presentation.page = json.value(key("page")).toString();
+        presentation.label = json.value(key("label")).toString();
+        presentation.control = json.value(key("control")).toString();
+        presentation.text = json.value(key("text")).toString();
+        presentation.decimals = json.value(key("decimals")).toInt();
+        setPresentation(ref, presentation);
+    }
+    return true;
+}
+
+QByteArray ParameterTable::saveJson() const
+{
+    QJsonObject root;
+    root.insert(key("title"), title);
+    root.insert(key("version"), qint64(version()));
+    QJsonArray versionList, pageList, hardwareList, parameterList;
+    for (int v : versions)
+        versionList.append(v);
+    for (const QString &page : pages)
+        pageList.append(page);
+    for (const Hardware &entry : hardware)
+        hardwareList.append(QJsonObject{{key("id"), entry.id}, {key("name"), entry.name}});
+    root.insert(key("versions"), versionList);
+    root.insert(key("hardware"), hardwareList);
+    root.insert(key("pages"), pageList);
+
+    for (int ref : order) {
+        const MainConfigObject &object = records[ref];
+        const Entry &entry = entries[ref];
+        QJsonObject json{{key("ref"), ref}};
+        auto put = [&json](const char *name, const QJsonValue &value, bool when) {
+            if (when)
+                json.insert(key(name), value);
+        };
+        const Presentation &shown = entry.presentation;
+        put("page", shown.page, !shown.page.isEmpty());
+        put("control", shown.control, !shown.control.isEmpty());
+        put("label", shown.label, !shown.label.isEmpty());
+        put("text", shown.text, !shown.text.isEmpty());
+        put("decimals", shown.decimals, shown.decimals != 0);
+        put("type", object.type, object.type != 0);
+        put("toolTip", object.toolTip, !object.toolTip.isEmpty());
+        put("step", object.step, object.step != 1);
+        put("capacity", object.capacity, object.capacity != 0);
+        put("minimum", scalarJson(object.minimum), object.minimum.isValid());
+        put("maximum", scalarJson(object.maximum), object.maximum.isValid());
+        const bool defaultRange = object.minVersions == QMap<int, int>{{0, 0}};
+        put("minVersion", versionJson(object.minVersions), !defaultRange);
+        put("maxVersion", versionJson(object.maxVersions), !object.maxVersions.isEmpty());
+        put("versionKey", object.versionKey, object.versionKey != 0);
+        put("licence", object.licenceGate, object.licenceGate != 0);
+        put("group", entry.group, entry.group != 0);
+        QJsonArray ids;
+        for (int id : object.hardwareIds)
+            ids.append(id);
+        put("hardware", ids, !ids.isEmpty());
+        QJsonArray options;
+        for (const auto &option : object.options)
+            options.append(QJsonArray{option.first, option.second});
+        put("options", options, !options.isEmpty());
+        put("columnTitles", QJsonArray::fromStringList(object.columnTitles),
+            !object.columnTitles.isEmpty());
+        writeCollectionShape(object, json);
+        json.insert(key("value"), toJson(object, object.value));
+        if (!sameValue(object.value, entry.stored))
+            json.insert(key("stored"), toJson(object, entry.stored));
+
+        QJsonObject rules;
+        const Rules &rule = entry.rules;
+        if (rule.minimum.isValid())
+            rules.insert(key("min"), scalarJson(rule.minimum));
+        if (rule.maximum.isValid())
+            rules.insert(key("max"), scalarJson(rule.maximum));
+        if (rule.maxLength >= 0)
+            rules.insert(key("maxLength"), rule.maxLength);
+        if (!rule.pattern.isEmpty())
+            rules.insert(key("pattern"), rule.pattern);
+        if (rule.numericCells)
+            rules.insert(key("numericCells"), true);
+        put("rules", rules, !rules.isEmpty());
+        parameterList.append(json);
+    }
+    root.insert(key("parameters"), parameterList);
+    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+}
+
+MainConfigObject &ParameterTable::addRecord(int ref, const MainConfigObject &record)
+{
+    if (!entries.contains(ref))
+        order.append(ref);
+    MainConfigObject &object = records[ref] = record;
+    if (object.minVersions.isEmpty())
+        object.minVersions[0] = 0;
+    entries[ref].stored = object.value;
+    return object;
+}
+
+bool ParameterTable::contains(int ref) const
+{
+    return entries.contains(ref);
+}
+
+QList<int> ParameterTable::parameters() const
+{
+    return order;
+}
+
+QVariant ParameterTable::storedValue(int ref) const
+{
+    return entries.value(ref).stored;
+}
+
+void ParameterTable::setStoredValue(int ref, const QVariant &value)
+{
+    entries[ref].stored = value;
+}
+
+ParameterTable::Rules ParameterTable::rules(int ref) const
+{
+    return entries.value(ref).rules;
+}
+
+void ParameterTable::setRules(int ref, const Rules &rules)
+{
+    entries[ref].rules = rules;
+}
+
+ParameterTable::Presentation ParameterTable::presentation(int ref) const
+{
+    return entries.value(ref).presentation;
+}
+
+void ParameterTable::setPresentation(int ref, const Presentation &presentation)
+{
+    entries[ref].presentation = presentation;
+}
+
+void ParameterTable::setGroup(int ref, int group)
+{
+    entries[ref].group = group;
+}
+
+quint32 ParameterTable::version() const
+{
+    return records.value(2).value.toUInt();
+}
+
+void ParameterTable::setVersion(quint32 version)
+{
+    records[2].value = version;
+}
+
+void ParameterTable::save()
+{
+    for (int ref : qAsConst(order))
+        entries[ref].stored = records[ref].value;
+}
+
+void ParameterTable::revert()
+{
+    for (int ref : qAsConst(order)) {
+        if (sameValue(records[ref].value, entries[ref].stored))
+            continue;
+        records[ref].value = entries[ref].stored;
+        emit valueChanged(ref);
+    }
+}
+
+QList<int> ParameterTable::modifiedParameters()
+{
+    QList<int> refs;
+    for (int ref : qAsConst(order))
+        if (isModified(ref))
+            refs.append(ref);
+    return refs;
+}
+
+QList<int> ParameterTable::invalidParameters()
+{
+    QList<int> refs;
+    for (int ref : qAsConst(order))
+        if (!isValid(ref))
+            refs.append(ref);
+    return refs;
+}
+
+MainConfigObject &ParameterTable::object(int ref)
+{
+    return records[ref];
+}
+
+QVariant ParameterTable::value(int ref)
+{
+    return records[ref].value;
+}
+
+void ParameterTable::setValue(int ref, QVariant v)
+{
+    const bool changed = !sameValue(records[ref].value, v);
+    const int group = entries.value(ref).group;
+    if (group != 0) {
+        for (auto it = entries.cbegin(); it != entries.cend(); ++it)
+            if (it.value().group == group)
+                records[it.key()].value = v;
+    }
+    records[ref].value = v;
+    if (changed)
+        emit valueChanged(ref);
+}
+
+bool ParameterTable::isValid(int ref)
+{
+    const MainConfigObject &record = records[ref];
+    const Rules rule = entries.value(ref).rules;
+    if (isCollection(record))
+        return invalidElements(record, rule.numericCells).isEmpty();
+    const QString text = record.value.toString();
+    if (rule.minimum.isValid() || rule.maximum.isValid()) {
+        double number = 0;
+        if (!readNumber(record.value, &number))
+            return false;
+        if (rule.minimum.isValid() && number < rule.minimum.toDouble())
+            return false;
+        if (rule.maximum.isValid() && number > rule.maximum.toDouble())
+            return false;
+    }
+    if (rule.maxLength >= 0 && text.size() > rule.maxLength)
+        return false;
+    if (!rule.pattern.isEmpty()) {
+        const QRegularExpression pattern(QRegularExpression::anchoredPattern(rule.pattern));
+        if (!pattern.match(text).hasMatch())
+            return false;
+    }
+    return true;
+}
+
+bool ParameterTable::isModified(int ref)
+{
+    return !sameValue(records[ref].value, entries.value(ref).stored);
+}
+
+bool ParameterTable::matchesStored(int ref, QVariant candidate)
+{
+    return sameValue(candidate, entries.value(ref).stored);
+}
+
+QList<int> ParameterTable::invalidItems(int ref)
+{
+    return invalidElements(records[ref], entries.value(ref).rules.numericCells);
+}
+
+QList<int> ParameterTable::modifiedItems(int ref)
+{
+    return differingElements(records[ref], records[ref].value, entries.value(ref).stored);
+}
+
+bool ParameterTable::isStoredItem(int ref, QVariant element)
+{
+    return containsElement(records[ref], entries.value(ref).stored, element);
+}
+
+bool ParameterTable::sameValue(const QVariant &a, const QVariant &b)
+{
+    return parametervalues::sameValue(a, b);
+}
+
+namespace {
+template <class Named, class Value> QString nameOf(Value value, const QList<Named> &names)
+{
+    for (const Named &named : names)
+        if (named.value == value)
+            return named.name;
+    return QString();
+}
+
+template <class Named, class Value> Value valueOf(const QString &text, const QList<Named> &names)
+{
+    for (const Named &named : names)
+        if (named.name == text)
+            return named.value;
+    return 0;
+}
+} // namespace
+
+QString ParameterTable::nameOfUInt(quint32 value, QList<NamedUInt> names)
+{
+    return nameOf(value, names);
+}
+
+QString ParameterTable::nameOfUShort(quint16 value, QList<NamedUShort> names)
+{
+    return nameOf(value, names);
+}
+
+quint16 ParameterTable::ushortOfName(QString text, QList<NamedUShort> names)
+{
+    return valueOf<NamedUShort, quint16>(text, names);
+}
+
+quint32 ParameterTable::uintOfName(QString text, QList<NamedUInt> names)
+{
+    return valueOf<NamedUInt, quint32>(text, names);
+}

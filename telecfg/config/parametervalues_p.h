@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "telecfg/config/mainconfig.h"
+
+#include <QJsonObject>
+#include <QJsonValue>
+
+// Private to the library: how ParameterTable turns JSON into the values the controls expect
+// and back, and its value comparisons.
+namespace parametervalues {
+
+// The record's value for a JSON value, of the type the bound control reads and writes.
+QVariant fromJson(const MainConfigObject &object, const QJsonValue &json);
+// The JSON form of a value, as fromJson reads it back (collections without trailing free
+// places).
+QJsonValue toJson(const MainConfigObject &object, const QVariant &value);
+// Capacity-independent shape of collection parameters: column lists and value names.
+void readCollectionShape(MainConfigObject &object, const QJsonObject &json);
+void writeCollectionShape(const MainConfigObject &object, QJsonObject &json);
+bool isCollection(const MainConfigObject &object);
+
+// Equality as the table sees it: containers element by element, numbers by value, else text.
+bool sameValue(const QVariant &a, const QVariant &b);
+// Places whose elements differ between two collection values (a table's place is a row).
+QList<int> differingElements(const MainConfigObject &object, const QVariant &current,
+                             const QVariant &stored);
+// Places of a collection whose element is invalid: a repeated element (for a table a
+// repeated row identifier) or, with `numericCells`, a table cell that is no number.
+QList<int> invalidElements(const MainConfigObject &object, bool numericCells);
+// Whether a stored collection holds the element (for a table: the row identifier).
+bool containsElement(const MainConfigObject &object, const QVariant &collection,
+                     const QVariant &element);
+
+} // namespace parametervalues

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
+#include "telecfg/controls/formbinder.h"
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/config/parametertable.h"
+#include "telecfg/controls/cfgcheckbox.h"
+#include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/controls/cfglineedit.h"
+#include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/controls/cfgspinbox.h"
+#include "telecfg/dialogs/licence_p.h"
+
+#include <QLabel>
+#include <QMap>
+#include <QRegularExpression>
+
+struct FormBinder::Binding
+{
+    int ref = 0;
+    QPointer<QWidget> control;
+    QPointer<QWidget> label;
+    QList<QPointer<QWidget>> related;
+    std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> setReference;
+    std::function<void(int)> updateControl;
+};
+
+namespace {
+// The bound controls share a protocol but no base class: each is tried by its own type.
+template <class Control>
+bool adapt(QWidget *widget,
+           std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> &bind,
+           std::function<void(int)> &update)
+{
+    auto *control = qobject_cast<Control *>(widget);
+    if (!control)
+        return false;
+    bind = [control](MainConfigIFace *iface, int ref, QWidget *label, QList<QWidget *> related) {
+        control->setReference(iface, ref, label, related);
+    };
+    update = [control](int hardwareId) { control->updateControl(hardwareId); };
+    return true;
+}
+
+template <class... Controls>
+bool adaptAny(QWidget *widget,
+              std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> &bind,
+              std::function<void(int)> &update)
+{
+    return (adapt<Controls>(widget, bind, update) || ...);
+}
+
+QString versionKeyText(const MainConfigObject &record)
+{
+    return record.versionKey == 0 ? QStringLiteral("key 0")
+                                  : QStringLiteral("key %1 nor key 0").arg(record.versionKey);
+}
+} // namespace
+
+QString FormBinder::Problem::text() const
+{
+    switch (reason) {
+    case NoSuchParameter:
+        return QStringLiteral("%1: no such parameter").arg(objectName);
+    case NotABoundControl:
+        return QStringLiteral("%1: not a bound control").arg(objectName);
+    case BadNumber:
+        break;
+    }
+    return QStringLiteral("%1: no parameter number after \"cfg_\"").arg(objectName);
+}
+
+FormBinder::FormBinder(QObject *parent) : QObject(parent) {}
+
+FormBinder::~FormBinder() = default;
+
+QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *table,
+                                            std::function<bool(int)> exists)
+{
+    bindings.clear();
+    iface = table;
+    QList<Problem> problems;
+    if (!form || !table)
+        return problems;
+    if (!exists) {
+        if (auto *ready = dynamic_cast<ParameterTable *>(table))
+            exists = [ready](int ref) { return ready->contains(ref); };
+        else
+            exists = [](int) { return true; };
+    }
+
+    static const QRegularExpression pattern(QStringLiteral("^cfg_(\\d{1,9})(_.*)?$"));
+    QList<QPair<QWidget *, int>> controls;
+    QMap<int, QList<QWidget *>> relatedByRef;
+    for (QWidget *widget : form->findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        if (!name.startsWith(QLatin1String("cfg_")))
+            continue;
+        const QRegularExpressionMatch match = pattern.match(name);
+        const int ref = match.hasMatch() ? match.captured(1).toInt() : 0;
+        if (!match.hasMatch()) {
+            problems.append({name, 0, Problem::BadNumber});
+        } else if (!exists(ref)) {
+            problems.append({name, ref, Problem::NoSuchParameter});
+        } else if (match.lastCapturedIndex() == 2) {
+            relatedByRef[ref].append(widget);
+        } else {
+            controls.append({widget, ref});
+        }
+    }
+
+    const QList<QLabel *> labels = form->findChildren<QLabel *>();
+    for (const auto &[widget, ref] : qAsConst(controls)) {
+        Binding binding;
+        binding.ref = ref;
+        binding.control = widget;
+        if (!adaptAny<CfgCheckBox, CfgComboBox, CfgLineEdit, CfgSpinBox, CfgDoubleSpinBox,
+                      CfgRadioButton, CfgListWidget, CfgTableWidget>(widget, binding.setReference,
+                                                                     binding.updateControl)) {
+            problems.append({widget->objectName(), ref, Problem::NotABoundControl});
+            continue;
+        }
+        for (QLabel *label : labels) {
+            if (label->buddy() == widget) {
+                binding.label = label;
+                binding.related.append(label);
+                break;
+            }
+        }
+        for (QWidget *related : relatedByRef.value(ref))
+            binding.related.append(related);
+        bindings.append(binding);
+    }
+    rebind();
+    return problems;
+}
+
+void FormBinder::rebind()
+{
+    for (const Binding &binding : qAsConst(bindings)) {
+        if (!binding.control)
+            continue;
+        QList<QWidget *> related;
+        for (const QPointer<QWidget> &widget : binding.related)
+            if (widget)
+                related.append(widget);
+        binding.setReference(iface, binding.ref, binding.label, related);
+    }
+}
+
+void FormBinder::refresh(int hardwareId)
+{
+    if (hardwareId != 0)
+        lastHardwareId = hardwareId;
+    for (const Binding &binding : qAsConst(bindings))
+        if (binding.control)
+            binding.updateControl(hardwareId);
+}
+
+QList<int> FormBinder::parameters() const
+{
+    QList<int> refs;
+    for (const Binding &binding : bindings)
+        if (binding.control)
+            refs.append(binding.ref);
+    return refs;
+}
+
+QWidget *FormBinder::control(int ref) const
+{
+    for (const Binding &binding : bindings)
+        if (binding.ref == ref && binding.control)
+            return binding.control;
+    return nullptr;
+}
+
+QString FormBinder::explainHidden(int ref, int hardwareId) const
+{
+    if (!iface)
+        return QStringLiteral("parameter %1: the form is not bound").arg(ref);
+    return explainHidden(*iface, ref, hardwareId != 0 ? hardwareId : lastHardwareId);
+}
+
+QString FormBinder::explainHidden(MainConfigIFace &iface, int ref, int hardwareId)
+{
+    const HiddenReason reason = hiddenReason(iface, ref, hardwareId);
+    MainConfigObject &record = iface.object(ref);
+    const QString version = QString::number(iface.object(2).value.toUInt());
+    const QString head = QStringLiteral("parameter %1 is hidden: ").arg(ref);
+    switch (reason) {
+    case HiddenReason::Shown:
+        break;
+    case HiddenReason::NoVersionRange:
+        return head + QStringLiteral("the record has no version range (no lowest version under "
+                                     "version %1), so it is shown from configuration version 99 "
+                                     "on; the configuration version is %2")
+                          .arg(versionKeyText(record), version);
+    case HiddenReason::BelowVersionRange:
+        return head + QStringLiteral("configuration version %1 is below its lowest version %2")
+                          .arg(version)
+                          .arg(getConfigMinVersion(record));
+    case HiddenReason::AboveVersionRange:
+        return head + QStringLiteral("configuration version %1 is above its highest version %2")
+                          .arg(version)
+                          .arg(getConfigMaxVersion(record));
+    case HiddenReason::HardwareNotListed: {
+        QStringList ids;
+        for (int id : qAsConst(record.hardwareIds))
+            ids.append(QString::number(id));
+        return head + QStringLiteral("hardware id %1 is not among its hardware ids %2")
+                          .arg(hardwareId)
+                          .arg(ids.join(QStringLiteral(", ")));
+    }
+    case HiddenReason::HiddenOnRequest:
+        return head + QStringLiteral("hidden on request (setHidden(true))");
+    case HiddenReason::ClosedByLicence:
+        return head + QStringLiteral("its licence gate %1 is above the licence level %2")
+                          .arg(record.licenceGate)
+                          .arg(guiLicenseLevel());
+    }
+    return QStringLiteral("parameter %1 is shown").arg(ref);
+}

@@ -1,0 +1,217 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
+#include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/parametertable.h"
+#include "telecfg/config/parametertypes.h"
+
+#include <QtTest>
+
+class TestParameterTable : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void modified_data();
+    void modified();
+    void validity_data();
+    void validity();
+    void writesSignalAndGroups();
+    void jsonRoundTrip();
+    void badJson_data();
+    void badJson();
+};
+
+namespace {
+QByteArray tableWith(const QByteArray &parameter)
+{
+    return "{\"version\": 12, \"parameters\": [" + parameter + "]}";
+}
+} // namespace
+
+void TestParameterTable::modified_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QVariant>("current");
+    QTest::addColumn<bool>("modified");
+
+    QTest::newRow("same int") << QVariant(400) << QVariant(400) << false;
+    QTest::newRow("other int") << QVariant(400) << QVariant(380) << true;
+    QTest::newRow("int and uint") << QVariant(7) << QVariant(7u) << false;
+    QTest::newRow("int flag and bool") << QVariant(1) << QVariant(true) << false;
+    QTest::newRow("bool and int 0") << QVariant(true) << QVariant(0) << true;
+    QTest::newRow("number and its text")
+        << QVariant(300) << QVariant(QStringLiteral("300")) << false;
+    QTest::newRow("double and whole text")
+        << QVariant(835.0) << QVariant(QStringLiteral("835")) << false;
+    QTest::newRow("texts") << QVariant(QStringLiteral("1234")) << QVariant(QStringLiteral("12345"))
+                           << true;
+    QTest::newRow("uint vectors equal") << QVariant::fromValue(QVector<quint32>{1, 2, 0})
+                                        << QVariant::fromValue(QVector<quint32>{1, 2, 0}) << false;
+    QTest::newRow("uint vectors differ") << QVariant::fromValue(QVector<quint32>{1, 2, 0})
+                                         << QVariant::fromValue(QVector<quint32>{1, 3, 0}) << true;
+    QTest::newRow("ushort vectors differ") << QVariant::fromValue(QVector<quint16>{5, 0})
+                                           << QVariant::fromValue(QVector<quint16>{0, 5}) << true;
+    QTest::newRow("byte arrays differ")
+        << QVariant::fromValue(QVector<QByteArray>{"A", ""})
+        << QVariant::fromValue(QVector<QByteArray>{"B", ""}) << true;
+    QTest::newRow("strings equal")
+        << QVariant::fromValue(QVector<QString>{QStringLiteral("x")})
+        << QVariant::fromValue(QVector<QString>{QStringLiteral("x")}) << false;
+    QTest::newRow("table cell differs")
+        << QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "20"}})
+        << QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "21"}}) << true;
+    QTest::newRow("table equal") << QVariant::fromValue(ColumnVectors{{"1"}, {"10"}})
+                                 << QVariant::fromValue(ColumnVectors{{"1"}, {"10"}}) << false;
+}
+
+void TestParameterTable::modified()
+{
+    QFETCH(QVariant, stored);
+    QFETCH(QVariant, current);
+    QFETCH(bool, modified);
+    ParameterTable table;
+    MainConfigObject record;
+    record.value = stored;
+    table.addRecord(101, record);
+    table.setValue(101, current);
+    QCOMPARE(table.isModified(101), modified);
+    QCOMPARE(table.matchesStored(101, current), !modified);
+    table.save();
+    QVERIFY(!table.isModified(101));
+}
+
+void TestParameterTable::validity_data()
+{
+    QTest::addColumn<QByteArray>("parameter");
+    QTest::addColumn<bool>("valid");
+    QTest::addColumn<QList<int>>("invalidItems");
+
+    const QList<int> none;
+    QTest::newRow("in range")
+        << QByteArray(R"({"ref": 3, "value": 400, "rules": {"min": 10, "max": 1500}})") << true
+        << none;
+    QTest::newRow("above max")
+        << QByteArray(R"({"ref": 3, "value": 1501, "rules": {"min": 10, "max": 1500}})") << false
+        << none;
+    QTest::newRow("below min, text")
+        << QByteArray(R"({"ref": 3, "value": "9", "rules": {"min": 10}})") << false << none;
+    QTest::newRow("no number") << QByteArray(R"({"ref": 3, "value": "x", "rules": {"max": 10}})")
+                               << false << none;
+    QTest::newRow("too long") << QByteArray(
+                                     R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})")
+                              << false << none;
+    QTest::newRow("pattern whole text")
+        << QByteArray(R"({"ref": 3, "value": "12345", "rules": {"pattern": "\\d{4}"}})") << false
+        << none;
+    QTest::newRow("pattern matches")
+        << QByteArray(R"({"ref": 3, "value": "1234", "rules": {"pattern": "\\d{4}"}})") << true
+        << none;
+    QTest::newRow("repeated list element")
+        << QByteArray(R"({"ref": 3, "type": 24, "capacity": 4, "value": [7, 8, 7]})") << false
+        << QList<int>{2};
+    QTest::newRow("free places repeat freely")
+        << QByteArray(R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A"]})") << true << none;
+    QTest::newRow("table cell no number")
+        << QByteArray(
+               R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[0, 0], [1, "x"]], "rules": {"numericCells": true}})")
+        << false << QList<int>{1};
+    QTest::newRow("repeated row identifier")
+        << QByteArray(R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[5, 0], [5, 1]]})")
+        << false << QList<int>{1};
+}
+
+void TestParameterTable::validity()
+{
+    QFETCH(QByteArray, parameter);
+    QFETCH(bool, valid);
+    QFETCH(QList<int>, invalidItems);
+    ParameterTable table;
+    QString error;
+    QVERIFY2(table.loadJson(tableWith(parameter), &error), qPrintable(error));
+    QCOMPARE(table.isValid(3), valid);
+    QCOMPARE(table.invalidItems(3), invalidItems);
+    QCOMPARE(table.invalidParameters(), valid ? QList<int>() : QList<int>{3});
+}
+
+void TestParameterTable::writesSignalAndGroups()
+{
+    ParameterTable table;
+    QVERIFY(table.loadJson(tableWith(R"({"ref": 3, "type": 4, "minimum": 0, "value": 1, "group": 9},
+                                        {"ref": 4, "type": 4, "minimum": 1, "value": 1, "group": 9},
+                                        {"ref": 5, "value": 400})")));
+    QSignalSpy changes(&table, &ParameterTable::valueChanged);
+    table.setValue(5, 400); // an echo of the same value
+    QCOMPARE(changes.count(), 0);
+    table.setValue(3, 0);
+    QCOMPARE(table.value(4), QVariant(0)); // the other choice of the group follows
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.takeFirst().value(0).toInt(), 3);
+    QCOMPARE(table.modifiedParameters(), (QList<int>{3, 4}));
+    table.revert();
+    QCOMPARE(table.value(3), QVariant(1));
+    QCOMPARE(changes.count(), 2);
+    QVERIFY(table.modifiedParameters().isEmpty());
+}
+
+void TestParameterTable::jsonRoundTrip()
+{
+    QFile file(QFINDTESTDATA("../../examples/demo/sample-table.json"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    ParameterTable first;
+    QString error;
+    QVERIFY2(first.loadJson(file.readAll(), &error), qPrintable(error));
+    QVERIFY(first.modifiedParameters().size() > 3);
+    const QByteArray saved = first.saveJson();
+    ParameterTable second;
+    QVERIFY2(second.loadJson(saved, &error), qPrintable(error));
+    QCOMPARE(second.saveJson(), saved);
+    QCOMPARE(second.parameters(), first.parameters());
+    QCOMPARE(second.title, first.title);
+    QCOMPARE(second.version(), 12u);
+    for (int ref : first.parameters()) {
+        const MainConfigObject &a = first.object(ref);
+        const MainConfigObject &b = second.object(ref);
+        QVERIFY2(ParameterTable::sameValue(a.value, b.value), qPrintable(QString::number(ref)));
+        QCOMPARE(second.isModified(ref), first.isModified(ref));
+        QCOMPARE(second.isValid(ref), first.isValid(ref));
+        QCOMPARE(b.value.userType(), a.value.userType());
+        QCOMPARE(b.type, a.type);
+        QCOMPARE(b.minVersions, a.minVersions);
+        QCOMPARE(b.hardwareIds, a.hardwareIds);
+        QCOMPARE(b.licenceGate, a.licenceGate);
+        QCOMPARE(b.options, a.options);
+        QCOMPARE(b.capacity, a.capacity);
+        QCOMPARE(second.presentation(ref).control, first.presentation(ref).control);
+    }
+    // A saved table holds what was edited, and the stored value beside it.
+    first.setValue(102, 1000);
+    first.save();
+    first.setValue(102, 1005);
+    QVERIFY(second.loadJson(first.saveJson()));
+    QCOMPARE(second.value(102), QVariant(1005));
+    QCOMPARE(second.storedValue(102), QVariant(1000));
+}
+
+void TestParameterTable::badJson_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::newRow("not json") << QByteArray("{\"version\": ");
+    QTest::newRow("an array") << QByteArray("[1, 2]");
+    QTest::newRow("reserved parameter") << tableWith(R"({"ref": 2, "value": 1})");
+    QTest::newRow("repeated parameter")
+        << tableWith(R"({"ref": 5, "value": 1}, {"ref": 5, "value": 2})");
+}
+
+void TestParameterTable::badJson()
+{
+    QFETCH(QByteArray, json);
+    ParameterTable table;
+    QVERIFY(table.loadJson(tableWith(R"({"ref": 7, "value": 1})")));
+    QString error;
+    QVERIFY(!table.loadJson(json, &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(table.parameters().isEmpty());
+}
+
+QTEST_MAIN(TestParameterTable)
+#include "tst_parametertable.moc"
