@@ -4,13 +4,7 @@
 # each: no file may be installed by both, and each host must run on its own Qt.
 #   cmake -DQT5_BUILD=build/default -DQT6_BUILD=build/qt6 -DWORK_DIR=... -P side_by_side.cmake
 cmake_minimum_required(VERSION 3.25)
-function(run)
-    execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
-    if(NOT rc EQUAL 0)
-        message(FATAL_ERROR "failed (${rc}): ${ARGN}\n${out}\n${err}")
-    endif()
-    set(last_output "${out}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 get_filename_component(consumer ${CMAKE_CURRENT_LIST_DIR}/consumer ABSOLUTE)
 file(REMOVE_RECURSE ${WORK_DIR})
