@@ -13,7 +13,7 @@ file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
 run(${CMAKE_COMMAND} --install ${TELECFG_BUILD_DIR} --prefix ${prefix})
 
-foreach(private licence_p.h firmwarekeys.h countrycode.h)
+foreach(private licence_p.h firmwarekeys.h countrycode.h boundcontrol.h)
     file(GLOB_RECURSE leaked ${prefix}/include/*/${private})
     if(leaked)
         message(FATAL_ERROR "private header installed: ${leaked}")
