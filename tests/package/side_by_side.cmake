@@ -7,6 +7,10 @@ cmake_minimum_required(VERSION 3.25)
 include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 get_filename_component(consumer ${CMAKE_CURRENT_LIST_DIR}/consumer ABSOLUTE)
+# Absolute, so the hosts' builds find the prefix wherever they run.
+get_filename_component(WORK_DIR ${WORK_DIR} ABSOLUTE)
+get_filename_component(QT5_BUILD ${QT5_BUILD} ABSOLUTE)
+get_filename_component(QT6_BUILD ${QT6_BUILD} ABSOLUTE)
 file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
 set(installed "")
