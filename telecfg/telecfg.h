@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+/// @file
+/// Everything telecfg offers its hosts, in one include.
+
 // Everything telecfg offers its hosts, in one include.
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"

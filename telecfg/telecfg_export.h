@@ -2,13 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+/// @file
+/// TELECFG_EXPORT, which marks what the shared library exports.
+
 // Marks what hosts use; everything else in the shared library stays hidden.
+/// @def TELECFG_EXPORT
+/// Marks a class or function hosts use; everything else in the shared library stays hidden.
 #if defined(_WIN32)
-#  if defined(TELECFG_BUILDING_LIBRARY)
-#    define TELECFG_EXPORT __declspec(dllexport)
-#  else
-#    define TELECFG_EXPORT __declspec(dllimport)
-#  endif
+#if defined(TELECFG_BUILDING_LIBRARY)
+#define TELECFG_EXPORT __declspec(dllexport)
 #else
-#  define TELECFG_EXPORT __attribute__((visibility("default")))
+#define TELECFG_EXPORT __declspec(dllimport)
+#endif
+#else
+#define TELECFG_EXPORT __attribute__((visibility("default")))
 #endif

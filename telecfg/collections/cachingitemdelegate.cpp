@@ -30,7 +30,7 @@ QBrush viewportBackground(const QWidget *widget)
 bool isKeepable(const QStyleOptionViewItem &item, const QPainter *painter)
 {
     const Qt::BrushStyle background = item.backgroundBrush.style();
-    const QTransform transform = painter->deviceTransform();
+    const QTransform &transform = painter->deviceTransform();
     return !(item.state & (QStyle::State_Selected | QStyle::State_HasFocus)) &&
            !(item.features &
              (QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasCheckIndicator)) &&

@@ -7,6 +7,7 @@
 #include "telecfg/collections/elementstate_p.h"
 #include "telecfg/collections/listwatch_p.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/controls/boundcontrol.h"
 
 #include <QLineEdit>
 #include <optional>
@@ -25,16 +26,21 @@ QVariant placeData(int place, bool live)
 }
 } // namespace
 
-struct CfgListWidget::Tracking
+struct CfgListWidget::Private
 {
-    explicit Tracking(QListWidget *list) : watch(list) {}
+    explicit Private(QListWidget *list) : watch(list) {}
 
+    BoundControl bound;
+    QString editText;
+    int inputModeValue = 1;
+    // What the last repaint painted from and what changed since, so a repaint after an add
+    // does not go through every item.
     ListWatch watch;
     std::optional<ElementPainter> lastPainter;
 };
 
 CfgListWidget::CfgListWidget(QWidget *parent)
-    : QListWidget(parent), tracking(std::make_unique<Tracking>(this))
+    : QListWidget(parent), d(std::make_unique<Private>(this))
 {
     registerCollectionTypes();
     // Items are single lines of text: the view then lays out an add without measuring
@@ -59,10 +65,10 @@ void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label
                                  QList<QWidget *> relatedWidgets)
 {
     clear();
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return; // no table: an unbound list shows nothing
-    setToolTip(bound.record().toolTip);
-    const MainConfigObject &object = bound.record();
+    setToolTip(d->bound.record().toolTip);
+    const MainConfigObject &object = d->bound.record();
     if (const ElementKind *kind = elementKind(object.type)) {
         const auto texts = kind->storedTexts(context(ref), object.value);
         for (const auto &placeText : texts) {
@@ -71,7 +77,7 @@ void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label
             insertItem(count(), item);
         }
     }
-    MainConfigObject &record = bound.record();
+    MainConfigObject &record = d->bound.record();
     record.control = this;
     if (label)
         record.label = label;
@@ -79,15 +85,14 @@ void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label
 
 void CfgListWidget::updateControl(int hardwareId)
 {
-    if (!bound.refreshVisibility(this, hardwareId))
+    if (!d->bound.refreshVisibility(this, hardwareId))
         return;
-    const ElementPainter painter(bound.iface, bound.reference);
+    const ElementPainter painter(d->bound.iface, d->bound.reference);
     // Painting an item again in the same state changes nothing; only the items the model
     // reported changed need it, as long as the host's lists and the texts stay as they were.
-    const ListWatch::Dirty dirty = tracking->watch.takeDirty();
-    const bool everything =
-        dirty.everything || !tracking->lastPainter || !(*tracking->lastPainter == painter);
-    tracking->watch.painting = true;
+    const ListWatch::Dirty dirty = d->watch.takeDirty();
+    const bool everything = dirty.everything || !d->lastPainter || !(*d->lastPainter == painter);
+    d->watch.painting = true;
     if (everything) {
         for (int row = 0; row < count(); ++row)
             painter.paint(item(row));
@@ -96,20 +101,20 @@ void CfgListWidget::updateControl(int hardwareId)
             if (QListWidgetItem *changed = item(row))
                 painter.paint(changed);
     }
-    tracking->watch.painting = false;
-    tracking->lastPainter = painter;
+    d->watch.painting = false;
+    d->lastPainter = painter;
 }
 
 void CfgListWidget::inputMode(int mode)
 {
-    inputModeValue = mode;
+    d->inputModeValue = mode;
 }
 
 ElementContext CfgListWidget::context(int ref)
 {
     ElementContext context;
-    context.iface = bound.iface;
-    context.valueNames = bound.iface->object(ref).valueNames;
+    context.iface = d->bound.iface;
+    context.valueNames = d->bound.iface->object(ref).valueNames;
     context.convertData = [this](const QByteArray &data, int mode) {
         return convertData(data, mode);
     };
@@ -118,20 +123,20 @@ ElementContext CfgListWidget::context(int ref)
 
 QByteArray CfgListWidget::convertData(const QByteArray &data, int mode)
 {
-    return convertElementBytes(data, mode, inputModeValue);
+    return convertElementBytes(data, mode, d->inputModeValue);
 }
 
 bool CfgListWidget::isItemExists(QVariant value, int &index)
 {
     const QString text = value.toString();
     index = -1;
-    if (!tracking->watch.mayShow(text))
+    if (!d->watch.mayShow(text))
         return false; // what findItems would tell, without going through every item
-    return findPresentElement(findItems(text, Qt::MatchExactly), text, editText, -1, index);
+    return findPresentElement(findItems(text, Qt::MatchExactly), text, d->editText, -1, index);
 }
 int CfgListWidget::addValue(QVariant value, int ref)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return 0;
     int index = -1;
     if (isItemExists(value, index)) {
@@ -150,12 +155,12 @@ int CfgListWidget::addValue(QVariant value, int ref)
 
 void CfgListWidget::addNew(const QVariant &value, int ref)
 {
-    const ElementKind *kind = elementKind(bound.iface->object(ref).type);
+    const ElementKind *kind = elementKind(d->bound.iface->object(ref).type);
     if (!kind)
         return;
     const ElementContext elementContext = context(ref);
-    const quint32 capacity = quint32(bound.iface->object(ref).capacity);
-    QVariant vector = bound.iface->value(ref);
+    const auto capacity = quint32(d->bound.iface->object(ref).capacity);
+    QVariant vector = d->bound.iface->value(ref);
     const int place = kind->firstFree(vector, capacity);
     if (place < 0) {
         // Deliberate: a full collection of a type that builds its item first still shows
@@ -170,12 +175,12 @@ void CfgListWidget::addNew(const QVariant &value, int ref)
     }
     QListWidgetItem *item = newItem(kind->newText(elementContext, value));
     const QVariant element = kind->storeNew(elementContext, vector, place, value);
-    bound.iface->object(ref).value = vector;
+    d->bound.iface->object(ref).value = vector;
     item->setData(Qt::UserRole, placeData(place, true));
     setValue(place, element);
     // Painted before it joins the list, so the refresh that ends the add finds it as it should
     // be and the view is not told of a change (which would make it lay out every item again).
-    ElementPainter(bound.iface, bound.reference).paint(item);
+    ElementPainter(d->bound.iface, d->bound.reference).paint(item);
     // Appended whichever place it took: list order is not place order.
     insertItem(count(), item);
     setCurrentItem(item, QItemSelectionModel::ClearAndSelect);
@@ -188,8 +193,8 @@ void CfgListWidget::restore(const QVariant &value, int ref, int index)
         return;
     // The first item takes the place found by the search, which with several items of one
     // text is the place of the last of them; the others fold into it.
-    if (const ElementKind *kind = elementKind(bound.iface->object(ref).type)) {
-        QVariant vector = bound.iface->value(ref);
+    if (const ElementKind *kind = elementKind(d->bound.iface->object(ref).type)) {
+        QVariant vector = d->bound.iface->value(ref);
         const QVariant element = kind->storeRestored(context(ref), vector, index, value);
         if (element.isValid()) {
             items.first()->setData(Qt::UserRole, placeData(index, true));
@@ -203,15 +208,15 @@ void CfgListWidget::restore(const QVariant &value, int ref, int index)
 
 void CfgListWidget::setValue(int index, QVariant value)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return;
-    const MainConfigObject &object = bound.record();
+    const MainConfigObject &object = d->bound.record();
     const ElementKind *kind = elementKind(object.type);
     if (!kind)
         return;
     QVariant vector = object.value;
     if (kind->storeVariant(vector, index, value))
-        bound.iface->setValue(bound.reference, vector);
+        d->bound.iface->setValue(d->bound.reference, vector);
 }
 
 bool CfgListWidget::remove(int ref)
@@ -231,21 +236,21 @@ bool CfgListWidget::removeInternal(const QList<QListWidgetItem *> &items, int re
 {
     if (items.isEmpty())
         return true;
-    if (!bound.iface)
+    if (!d->bound.iface)
         return false;
-    QVariant vector = bound.iface->value(ref);
+    QVariant vector = d->bound.iface->value(ref);
     for (QListWidgetItem *item : items) {
         const int place = int(item->data(Qt::UserRole).toUInt() & ~liveFlag);
-        const int type = bound.iface->object(ref).type;
+        const int type = d->bound.iface->object(ref).type;
         const ElementKind &kind = removalKind(type);
         const QVariant element = kind.elementAt(vector, place);
         bool kept = false;
-        if (element.isValid() && bound.iface->isStoredItem(ref, element)) {
+        if (element.isValid() && d->bound.iface->isStoredItem(ref, element)) {
             kept = true;
             item->setData(Qt::UserRole, placeData(place, false));
             paintState(item, ElementState::Removed);
             kind.zeroPlace(vector, place);
-            bound.iface->object(ref).value = vector;
+            d->bound.iface->object(ref).value = vector;
         }
         // An item removed before holds its bare place and stays.
         if (!kept && item->data(Qt::UserRole).toInt() != place)
@@ -253,19 +258,19 @@ bool CfgListWidget::removeInternal(const QList<QListWidgetItem *> &items, int re
         if (const ElementKind *own = elementKind(type))
             setValue(place, own->cleared(vector));
         // Go on from what the host now holds, so no later item writes back a cleared one.
-        vector = bound.iface->value(ref);
+        vector = d->bound.iface->value(ref);
     }
     int live = 0;
     for (int row = 0; row < count(); ++row)
         if (item(row)->data(Qt::UserRole).toUInt() & liveFlag)
             ++live;
     updateControl(0);
-    return quint32(live) < quint32(bound.iface->object(ref).capacity);
+    return quint32(live) < quint32(d->bound.iface->object(ref).capacity);
 }
 
 void CfgListWidget::doubleClicked(QListWidgetItem *)
 {
-    editText = currentItem() ? currentItem()->text() : QString();
+    d->editText = currentItem() ? currentItem()->text() : QString();
 }
 
 void CfgListWidget::ListWidgetEditCommit(QWidget *editor)
@@ -277,18 +282,18 @@ void CfgListWidget::ListWidgetEditCommit(QWidget *editor)
     // A present element finds itself here unless the text is back at editText: an edit
     // onto a present text goes back, silently.
     if (isItemExists(QVariant(lineEdit->text()), index) && currentItem())
-        currentItem()->setText(editText);
+        currentItem()->setText(d->editText);
 }
 
 void CfgListWidget::ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::EndEditHint)
 {
-    if (currentItem() && editor && bound.iface) {
-        const int type = bound.record().type;
+    if (currentItem() && editor && d->bound.iface) {
+        const int type = d->bound.record().type;
         const QString text = currentItem()->text();
         const QVariant value =
             type == 13 || type == 20 ? QVariant(text) : QVariant(text.toUInt(nullptr, 10));
         const QPointer<CfgListWidget> alive(this);
-        addValue(value, bound.reference);
+        addValue(value, d->bound.reference);
         if (!alive)
             return; // the host deleted the list while its message was open
     }

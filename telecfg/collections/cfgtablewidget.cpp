@@ -4,6 +4,7 @@
 #include "telecfg/collections/criticalbox_p.h"
 #include "telecfg/collections/elementstate_p.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/controls/boundcontrol.h"
 
 namespace {
 // Entry `place` of column `column`, or null where the value has no such entry.
@@ -30,7 +31,15 @@ QTableWidgetItem *newCell(const QString &text, quint32 data)
 }
 } // namespace
 
-CfgTableWidget::CfgTableWidget(QWidget *parent) : QTableWidget(parent)
+struct CfgTableWidget::Private
+{
+    BoundControl bound;
+    QString editText;
+    int inputModeValue = 0;
+};
+
+CfgTableWidget::CfgTableWidget(QWidget *parent)
+    : QTableWidget(parent), d(std::make_unique<Private>())
 {
     registerCollectionTypes();
     connect(itemDelegate(), SIGNAL(closeEditor(QWidget *, QAbstractItemDelegate::EndEditHint)),
@@ -47,9 +56,9 @@ void CfgTableWidget::setReference(MainConfigIFace *iface, int ref, QWidget *labe
     clear();
     // A binding shows exactly the new value, also when it has no rows at all.
     setRowCount(0);
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return; // no table: an unbound editor shows nothing
-    const MainConfigObject object = bound.record();
+    const MainConfigObject object = d->bound.record();
     setToolTip(object.toolTip);
     const int columns = qvariant_cast<QList<uint>>(object.columnListB).size();
     setColumnCount(columns);
@@ -59,9 +68,9 @@ void CfgTableWidget::setReference(MainConfigIFace *iface, int ref, QWidget *labe
                                   : tr("Kolumna %1").arg(column + 1, 0, 10, QLatin1Char(' '));
         setHorizontalHeaderItem(column, new QTableWidgetItem(title));
     }
-    const ColumnVectors values = qvariant_cast<ColumnVectors>(object.value);
+    const auto values = qvariant_cast<ColumnVectors>(object.value);
     const int filled = qvariant_cast<QList<uint>>(object.columnListA).size();
-    const quint32 capacity = quint32(object.capacity);
+    const auto capacity = quint32(object.capacity);
     int rows = 0;
     for (int column = 0; column < filled && column < values.size(); ++column) {
         const QVector<QByteArray> &places = values.at(column);
@@ -79,7 +88,7 @@ void CfgTableWidget::setReference(MainConfigIFace *iface, int ref, QWidget *labe
             placeCell(place, column, newCell(text, quint32(place) | liveFlag));
         }
     }
-    MainConfigObject &record = bound.record();
+    MainConfigObject &record = d->bound.record();
     record.control = this;
     if (label)
         record.label = label;
@@ -101,15 +110,15 @@ void CfgTableWidget::storeColumns(int ref, const ColumnVectors &columns)
     if (columns.isEmpty())
         return;
     const QVariant value = QVariant::fromValue(columns);
-    bound.iface->object(ref).value = value;
+    d->bound.iface->object(ref).value = value;
     setValue(value);
 }
 
 void CfgTableWidget::updateControl(int hardwareId)
 {
-    if (!bound.refreshVisibility(this, hardwareId))
+    if (!d->bound.refreshVisibility(this, hardwareId))
         return;
-    const ElementPainter painter(bound.iface, bound.reference);
+    const ElementPainter painter(d->bound.iface, d->bound.reference);
     for (int row = 0; row < rowCount(); ++row) {
         for (int column = 0; column < columnCount(); ++column) {
             QTableWidgetItem *cell = item(row, column);
@@ -123,19 +132,19 @@ void CfgTableWidget::updateControl(int hardwareId)
 
 void CfgTableWidget::inputMode(int mode)
 {
-    inputModeValue = mode;
+    d->inputModeValue = mode;
 }
 
 void CfgTableWidget::setValue(QVariant value)
 {
-    if (bound.iface)
-        bound.iface->setValue(bound.reference, value);
+    if (d->bound.iface)
+        d->bound.iface->setValue(d->bound.reference, value);
 }
 
 bool CfgTableWidget::searchItems(const QList<QTableWidgetItem *> &items, const QString &text,
                                  int exclude, int &index)
 {
-    return findPresentElement(items, text, editText, exclude, index);
+    return findPresentElement(items, text, d->editText, exclude, index);
 }
 
 bool CfgTableWidget::isItemExists(QVariant value, int &index)
@@ -166,7 +175,7 @@ int CfgTableWidget::refuseDuplicate()
 
 int CfgTableWidget::addValue(QVariant value, int ref)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return 0;
     int index = -1;
     if (isItemExists(value, index))
@@ -176,7 +185,7 @@ int CfgTableWidget::addValue(QVariant value, int ref)
         ListWidgetEditEnd(nullptr, QAbstractItemDelegate::NoHint);
         return 0;
     }
-    ColumnVectors columns = qvariant_cast<ColumnVectors>(bound.iface->object(ref).value);
+    auto columns = qvariant_cast<ColumnVectors>(d->bound.iface->object(ref).value);
     const int rows = rowCount();
     auto fillRow = [&](int row) {
         for (int column = 0; column < strings.size(); ++column) {
@@ -191,7 +200,7 @@ int CfgTableWidget::addValue(QVariant value, int ref)
         if (row >= 0)
             fillRow(row);
     } else {
-        const quint32 capacity = quint32(bound.iface->object(ref).capacity);
+        const auto capacity = quint32(d->bound.iface->object(ref).capacity);
         for (int place = 0; quint32(place) < capacity; ++place) {
             const QByteArray *identifier = entry(columns, 0, place);
             if (!identifier)
@@ -213,12 +222,12 @@ int CfgTableWidget::addValue(QVariant value, int ref)
 
 int CfgTableWidget::addValue(QString value, int ref)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return 0;
     int index = -1;
     if (isItemExists(value, index))
         return refuseDuplicate();
-    ColumnVectors columns = qvariant_cast<ColumnVectors>(bound.iface->object(ref).value);
+    auto columns = qvariant_cast<ColumnVectors>(d->bound.iface->object(ref).value);
     const QList<QTableWidgetItem *> items = findItems(value, Qt::MatchExactly);
     if (items.isEmpty() || !items.first())
         return 0;
@@ -235,10 +244,10 @@ int CfgTableWidget::addValue(QString value, int ref)
 
 bool CfgTableWidget::remove(int ref)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return false;
     const QList<QTableWidgetItem *> items = selectedItems();
-    ColumnVectors columns = qvariant_cast<ColumnVectors>(bound.iface->object(ref).value);
+    auto columns = qvariant_cast<ColumnVectors>(d->bound.iface->object(ref).value);
     // Cells taken away with their row while still waiting in the list.
     QSet<QTableWidgetItem *> gone;
     for (QTableWidgetItem *selected : items) {
@@ -252,7 +261,7 @@ bool CfgTableWidget::remove(int ref)
         // Deliberate: the place is compared with the number of columns; a place at or above
         // it goes at once, without asking the host.
         if (columns.size() >= place + 1 && identifier &&
-            bound.iface->isStoredItem(ref, QVariant(*identifier))) {
+            d->bound.iface->isStoredItem(ref, QVariant(*identifier))) {
             for (int column = 0; column < columns.size(); ++column) {
                 if (QTableWidgetItem *cell = item(place, column)) {
                     cell->setData(Qt::UserRole, uint(place));
@@ -275,12 +284,12 @@ bool CfgTableWidget::remove(int ref)
         }
         storeColumns(ref, columns);
     }
-    return quint32(bound.iface->object(ref).capacity) > 0;
+    return quint32(d->bound.iface->object(ref).capacity) > 0;
 }
 
 void CfgTableWidget::doubleClicked(QTableWidgetItem *)
 {
-    editText = currentItem() ? currentItem()->text() : QString();
+    d->editText = currentItem() ? currentItem()->text() : QString();
 }
 
 void CfgTableWidget::ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEditHint)
@@ -290,13 +299,13 @@ void CfgTableWidget::ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEdit
         int index = -1;
         const QPointer<CfgTableWidget> alive(this);
         if (text.isEmpty()) {
-            current->setText(editText);
+            current->setText(d->editText);
             showCriticalBox(this, tr("Edycja elementu"), tr("Identyfikator nie może być pusty"));
         } else if (isItemExists(text, index)) {
-            current->setText(editText);
+            current->setText(d->editText);
             showCriticalBox(this, tr("Edycja elementu"), tr("Identyfikator jest już używany"));
         } else {
-            addValue(text, bound.reference);
+            addValue(text, d->bound.reference);
         }
         if (!alive)
             return; // the host deleted the table while its message was open
@@ -307,7 +316,7 @@ void CfgTableWidget::ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEdit
 void CfgTableWidget::changed(int value)
 {
     QObject *source = sender();
-    if (!bound.iface || !source)
+    if (!d->bound.iface || !source)
         return;
     bool rowOk = false;
     bool columnOk = false;
@@ -316,7 +325,7 @@ void CfgTableWidget::changed(int value)
     QTableWidgetItem *cell = rowOk && columnOk ? item(row, column) : nullptr;
     if (!cell)
         return;
-    ColumnVectors columns = qvariant_cast<ColumnVectors>(bound.record().value);
+    auto columns = qvariant_cast<ColumnVectors>(d->bound.record().value);
     // Deliberate: the plain number replaces the place and liveFlag, so the cell paints as
     // removed at the next refresh and remove skips it.
     cell->setData(Qt::UserRole, value);
@@ -324,7 +333,7 @@ void CfgTableWidget::changed(int value)
     if (!text)
         return;
     *text = QString::number(value, 10).toLatin1();
-    storeColumns(bound.reference, columns);
+    storeColumns(d->bound.reference, columns);
 }
 
 TELECFG_BOUND_CONTROL_OPERATIONS(CfgTableWidget)

@@ -263,26 +263,35 @@ private:
     }
 };
 
-const RowKind<NamedNumberRow<quint16, NamedUShort>> shortKind;
-const RowKind<NamedNumberRow<quint32, NamedUInt>> longKind;
-const RowKind<NetworkRow> networkKind;
-const RowKind<BytesRow> bytesKind;
-const RowKind<StringRow> stringKind;
+// Built on first use rather than at load time.
+template <class Row> const ElementKind &kindOf()
+{
+    static const RowKind<Row> kind;
+    return kind;
+}
+const ElementKind &shortKind()
+{
+    return kindOf<NamedNumberRow<quint16, NamedUShort>>();
+}
+const ElementKind &longKind()
+{
+    return kindOf<NamedNumberRow<quint32, NamedUInt>>();
+}
 } // namespace
 
 const ElementKind *elementKind(int type)
 {
     switch (type) {
     case 8:
-        return &shortKind;
+        return &shortKind();
     case 24:
-        return &longKind;
+        return &longKind();
     case 29:
-        return &networkKind;
+        return &kindOf<NetworkRow>();
     case 20:
-        return &bytesKind;
+        return &kindOf<BytesRow>();
     case 13:
-        return &stringKind;
+        return &kindOf<StringRow>();
     default:
         return nullptr;
     }
@@ -291,10 +300,10 @@ const ElementKind *elementKind(int type)
 const ElementKind &removalKind(int type)
 {
     if (type == 8)
-        return shortKind;
+        return shortKind();
     if (type == 24 || type == 29)
-        return longKind;
-    return bytesKind;
+        return longKind();
+    return kindOf<BytesRow>();
 }
 
 QByteArray convertElementBytes(const QByteArray &data, int mode, int inputMode)

@@ -8,8 +8,7 @@
 #include <QBrush>
 #include <QCoreApplication>
 #include <QSet>
-#include <algorithm>
-#include <iterator>
+#include <array>
 
 // The four states an element's item is painted in, shared by the list and the table.
 enum class ElementState { Removed, Invalid, Modified, Existing };
@@ -40,14 +39,11 @@ public:
     }
 
     // Brushes never change; tool tips do with the language.
-    bool operator==(const StateLook &other) const
-    {
-        return std::equal(std::begin(toolTips), std::end(toolTips), std::begin(other.toolTips));
-    }
+    bool operator==(const StateLook &other) const { return toolTips == other.toolTips; }
 
 private:
-    QVariant brushes[4];
-    QString toolTips[4];
+    std::array<QVariant, 4> brushes;
+    std::array<QString, 4> toolTips;
 };
 
 // One state painted on one item.

@@ -11,7 +11,7 @@
 
 class QString;
 
-// Internal to the library: installed only because the controls hold it by value.
+// Internal to the library, never installed: each control holds one in its private part.
 //
 // The protocol every bound control shares: its binding to one parameter, the visibility
 // rules of a refresh, the host's enable gate and the hidden request. A control holds one
@@ -65,29 +65,29 @@ bool systemLocaleUsesPoint();
 
 // Defines, in a control's source file, the protocol operations that read the same in every
 // bound control: the error flag, the host's enable gate and the hidden request. The control
-// holds a BoundControl named `bound` and declares these operations itself (some are slots,
-// which the meta-object compiler must see); only its updateControl is its own.
+// holds a BoundControl named `bound` in its private part `d` and declares these operations itself
+// (some are slots, which the meta-object compiler must see); only its updateControl is its own.
 #define TELECFG_BOUND_CONTROL_OPERATIONS(Control)                                                  \
     void Control::setError(bool error)                                                             \
     {                                                                                              \
-        bound.error = error;                                                                       \
+        d->bound.error = error;                                                                    \
     }                                                                                              \
     bool Control::isError()                                                                        \
     {                                                                                              \
-        return bound.error;                                                                        \
+        return d->bound.error;                                                                     \
     }                                                                                              \
     void Control::setEnabled(bool bEnable)                                                         \
     {                                                                                              \
-        bound.setEnabled(this, bEnable);                                                           \
+        d->bound.setEnabled(this, bEnable);                                                        \
         updateControl(0);                                                                          \
     }                                                                                              \
     void Control::updateEnableState(bool state)                                                    \
     {                                                                                              \
-        bound.updateEnableState(this, state);                                                      \
+        d->bound.updateEnableState(this, state);                                                   \
         updateControl(0);                                                                          \
     }                                                                                              \
     void Control::setHidden(bool hidden)                                                           \
     {                                                                                              \
-        if (bound.setHidden(this, hidden))                                                         \
+        if (d->bound.setHidden(this, hidden))                                                      \
             updateControl(0);                                                                      \
     }

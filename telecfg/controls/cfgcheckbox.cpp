@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcheckbox.h"
+#include "telecfg/controls/boundcontrol.h"
 
 namespace {
 QString checkBoxSheet(const char *colour, const char *suffix, const QString &separator)
@@ -34,7 +35,12 @@ const QString &checkBoxSheet(bool enabled, bool modified)
 }
 } // namespace
 
-CfgCheckBox::CfgCheckBox(QWidget *parent) : QCheckBox(parent)
+struct CfgCheckBox::Private
+{
+    BoundControl bound;
+};
+
+CfgCheckBox::CfgCheckBox(QWidget *parent) : QCheckBox(parent), d(std::make_unique<Private>())
 {
     connect(this, SIGNAL(stateChanged(int)), this, SLOT(changed(int)));
     drawBitmap(true, false);
@@ -45,36 +51,36 @@ CfgCheckBox::~CfgCheckBox() = default;
 void CfgCheckBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                QList<QWidget *> relatedWidgets)
 {
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return;
-    setToolTip(bound.record().toolTip);
-    const MainConfigObject &object = bound.record();
+    setToolTip(d->bound.record().toolTip);
+    const MainConfigObject &object = d->bound.record();
     const bool on = object.type == 22 ? object.value.toUInt() != 0 : object.value.toBool();
     setCheckState(on ? Qt::Checked : Qt::Unchecked);
-    bound.registerIn(this, label);
+    d->bound.registerIn(this, label);
 }
 
 void CfgCheckBox::updateControl(int hardwareId)
 {
-    if (!bound.refreshVisibility(this, hardwareId))
+    if (!d->bound.refreshVisibility(this, hardwareId))
         return;
-    drawBitmap(isEnabled(), bound.iface->isModified(bound.reference));
+    drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
 }
 
 int CfgCheckBox::getReference()
 {
-    return bound.reference;
+    return d->bound.reference;
 }
 
 void CfgCheckBox::changed(int state)
 {
-    if (bound.reference == 0)
+    if (d->bound.reference == 0)
         return;
-    const MainConfigObject &object = bound.record();
+    const MainConfigObject &object = d->bound.record();
     // A partially checked box counts as checked only when the record asks for it.
     const bool on = object.partialIsChecked ? state != Qt::Unchecked : state == Qt::Checked;
     const QVariant value = object.type == 22 ? QVariant(int(on)) : QVariant(on);
-    bound.iface->setValue(bound.reference, value);
+    d->bound.iface->setValue(d->bound.reference, value);
     updateControl(0);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/qtcompat_p.h"
 
 #include <QAbstractItemModel>
@@ -85,7 +86,14 @@ void rememberItemsWhite(const QComboBox *box)
 }
 } // namespace
 
-CfgComboBox::CfgComboBox(QWidget *parent) : QComboBox(parent)
+struct CfgComboBox::Private
+{
+    BoundControl bound;
+    bool loading = false;
+    bool skip = false;
+};
+
+CfgComboBox::CfgComboBox(QWidget *parent) : QComboBox(parent), d(std::make_unique<Private>())
 {
     qtcompat::connectCurrentIndexText(this, this, SLOT(changed(const QString &)));
     setFocusPolicy(Qt::StrongFocus);
@@ -96,15 +104,15 @@ CfgComboBox::~CfgComboBox() = default;
 void CfgComboBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                QList<QWidget *> relatedWidgets)
 {
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return;
-    loading = true;
-    setToolTip(bound.record().toolTip);
+    d->loading = true;
+    setToolTip(d->bound.record().toolTip);
     clear();
 
     // Keys are positions: a gap leaves a blank item, a key past the entry count is dropped.
     // Hosts rely on it; deliberate.
-    const QMap<int, QPair<QString, QString>> options = bound.record().options;
+    const QMap<int, QPair<QString, QString>> options = d->bound.record().options;
     QVector<QPair<QString, QString>> items(options.size());
     for (auto it = options.cbegin(); it != options.cend(); ++it)
         if (it.key() >= 0 && it.key() < items.size())
@@ -112,10 +120,10 @@ void CfgComboBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
     for (int i = 0; i < items.size(); ++i)
         insertItem(i, QIcon(), items[i].first, QVariant(items[i].second));
 
-    selectValue(bound.record().value);
+    selectValue(d->bound.record().value);
     updateControl(0);
-    bound.registerIn(this, label);
-    loading = false;
+    d->bound.registerIn(this, label);
+    d->loading = false;
 }
 
 void CfgComboBox::selectValue(const QVariant &value)
@@ -127,7 +135,7 @@ void CfgComboBox::selectValue(const QVariant &value)
 
 void CfgComboBox::updateControl(int hardwareId)
 {
-    if (!bound.refreshVisibility(this, hardwareId))
+    if (!d->bound.refreshVisibility(this, hardwareId))
         return;
     updateColor(isEnabled());
 }
@@ -143,36 +151,36 @@ void CfgComboBox::updateColor(bool enabled)
         rememberItemsWhite(this);
     }
     Colour colour = enabled ? White : PaleGrey;
-    if (bound.error)
+    if (d->bound.error)
         colour = Red;
-    else if (bound.iface && currentIndex() >= 0 &&
-             !bound.iface->matchesStored(bound.reference, currentData(Qt::UserRole)))
+    else if (d->bound.iface && currentIndex() >= 0 &&
+             !d->bound.iface->matchesStored(d->bound.reference, currentData(Qt::UserRole)))
         colour = enabled ? Yellow : PaleYellow;
     applyStyleSheet(this, comboSheet(colour));
 }
 
 void CfgComboBox::updateSelection(int ref)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return;
-    selectValue(bound.iface->object(ref).value);
+    selectValue(d->bound.iface->object(ref).value);
 }
 
 void CfgComboBox::setSkip(bool skipEdits)
 {
-    skip = skipEdits;
+    d->skip = skipEdits;
 }
 
 void CfgComboBox::changed(const QString &text)
 {
-    if (!bound.iface || loading || skip)
+    if (!d->bound.iface || d->loading || d->skip)
         return;
     // By shown text: of two equal texts the first one's value is written. Deliberate.
     const int index = findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
     const QVariant data = itemData(index, Qt::UserRole);
     if (!data.isValid())
         return;
-    bound.iface->setValue(bound.reference, data);
+    d->bound.iface->setValue(d->bound.reference, data);
     updateControl(0);
     emit cfgComboBoxChanged();
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/qtcompat_p.h"
 
 #include <QLocale>
@@ -24,7 +25,13 @@ double systemDouble(const QString &text)
 }
 } // namespace
 
-CfgDoubleSpinBox::CfgDoubleSpinBox(QWidget *parent) : QDoubleSpinBox(parent)
+struct CfgDoubleSpinBox::Private
+{
+    BoundControl bound;
+};
+
+CfgDoubleSpinBox::CfgDoubleSpinBox(QWidget *parent)
+    : QDoubleSpinBox(parent), d(std::make_unique<Private>())
 {
     connect(this, TELECFG_SPINBOX_TEXT_SIGNAL, this, SLOT(updateValue(QString)));
 }
@@ -34,22 +41,22 @@ CfgDoubleSpinBox::~CfgDoubleSpinBox() = default;
 void CfgDoubleSpinBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                     QList<QWidget *> relatedWidgets)
 {
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return;
-    setToolTip(bound.record().toolTip);
-    setSingleStep(double(quint32(bound.record().step)));
+    setToolTip(d->bound.record().toolTip);
+    setSingleStep(double(quint32(d->bound.record().step)));
     // The value is read before the bounds are set: each bound's echo reaches the host's
     // setValue and would otherwise replace the value about to be shown.
     const QVariant value = iface->value(ref);
-    if (bound.record().type == 21) {
-        setMinimum(double(bound.record().minimum.toInt()));
-        setMaximum(double(bound.record().maximum.toInt()));
+    if (d->bound.record().type == 21) {
+        setMinimum(double(d->bound.record().minimum.toInt()));
+        setMaximum(double(d->bound.record().maximum.toInt()));
         setValue(double(value.toInt()));
     } else {
         // Only the value is adapted to the locale's separator; a bound written with the
         // other one parses as 0. Deliberate.
-        setMinimum(systemDouble(bound.record().minimum.toString()));
-        setMaximum(systemDouble(bound.record().maximum.toString()));
+        setMinimum(systemDouble(d->bound.record().minimum.toString()));
+        setMaximum(systemDouble(d->bound.record().maximum.toString()));
         QString text = value.toString();
         if (systemLocaleUsesPoint())
             text.replace(QLatin1Char(','), QLatin1Char('.'));
@@ -57,12 +64,12 @@ void CfgDoubleSpinBox::setReference(MainConfigIFace *iface, int ref, QWidget *la
             text.replace(QLatin1Char('.'), QLatin1Char(','));
         setValue(systemDouble(text));
     }
-    bound.registerIn(this, label);
+    d->bound.registerIn(this, label);
 }
 
 void CfgDoubleSpinBox::updateValue(QString val)
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return;
     // Single precision is part of the rule: within a float's reach a near multiple passes.
     float whole = 0;
@@ -71,20 +78,20 @@ void CfgDoubleSpinBox::updateValue(QString val)
         applyStyleSheet(this, doubleSpinSheet(Red));
         return;
     }
-    bound.iface->setValue(bound.reference, QVariant(systemDouble(val)));
+    d->bound.iface->setValue(d->bound.reference, QVariant(systemDouble(val)));
     updateControl(0);
 }
 
 void CfgDoubleSpinBox::updateControl(int hardwareId)
 {
-    if (!bound.refreshVisibility(this, hardwareId))
+    if (!d->bound.refreshVisibility(this, hardwareId))
         return;
     // The step rule is not repeated here: a refused edit's red lasts until this refresh.
-    MainConfigIFace *iface = bound.iface;
+    MainConfigIFace *iface = d->bound.iface;
     int state = White;
-    if (!iface->isValid(bound.reference))
+    if (!iface->isValid(d->bound.reference))
         state = Red;
-    else if (iface->isModified(bound.reference))
+    else if (iface->isModified(d->bound.reference))
         state = Yellow;
     applyStyleSheet(this, doubleSpinSheet(state));
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfglineedit.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/qtcompat_p.h"
 
 #include <QLocale>
@@ -68,7 +69,12 @@ QString validatorPattern(int type, bool pointLocale)
 }
 } // namespace
 
-CfgLineEdit::CfgLineEdit(QWidget *parent) : QLineEdit(parent)
+struct CfgLineEdit::Private
+{
+    BoundControl bound;
+};
+
+CfgLineEdit::CfgLineEdit(QWidget *parent) : QLineEdit(parent), d(std::make_unique<Private>())
 {
     connect(this, SIGNAL(textChanged(const QString &)), this, SLOT(updateText(const QString &)));
 }
@@ -78,13 +84,13 @@ CfgLineEdit::~CfgLineEdit() = default;
 void CfgLineEdit::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                QList<QWidget *> relatedWidgets)
 {
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return;
-    setToolTip(bound.record().toolTip);
+    setToolTip(d->bound.record().toolTip);
     // Before the validator: the host's value is shown even when it would not pass it.
     QLineEdit::setText(iface->value(ref).toString());
-    installValidator(bound.record().type);
-    bound.registerIn(this, label);
+    installValidator(d->bound.record().type);
+    d->bound.registerIn(this, label);
     updateControl(0);
 }
 
@@ -99,36 +105,36 @@ void CfgLineEdit::installValidator(int type)
 
 void CfgLineEdit::updateText(const QString &text)
 {
-    if (bound.reference == 4 && text.isEmpty()) {
+    if (d->bound.reference == 4 && text.isEmpty()) {
         // No refresh here: the colour stays as it was. Deliberate.
-        if (bound.iface)
-            bound.iface->setValue(bound.reference, QVariant(0xFFFFFFFFu));
+        if (d->bound.iface)
+            d->bound.iface->setValue(d->bound.reference, QVariant(0xFFFFFFFFu));
         return;
     }
     if (!text.isEmpty() && (isBlank(text.front()) || isBlank(text.back()))) {
         applyStyleSheet(this, redSheet());
         return;
     }
-    if (bound.error) {
+    if (d->bound.error) {
         applyStyleSheet(this, redSheet());
         return;
     }
-    if (bound.iface)
-        bound.iface->setValue(bound.reference, QVariant(text));
+    if (d->bound.iface)
+        d->bound.iface->setValue(d->bound.reference, QVariant(text));
     updateControl(0);
 }
 
 void CfgLineEdit::updateControl(int hardwareId)
 {
-    if (!bound.iface) {
-        applyStyleSheet(this, bound.error ? redSheet() : whiteSheet());
+    if (!d->bound.iface) {
+        applyStyleSheet(this, d->bound.error ? redSheet() : whiteSheet());
         return;
     }
-    bound.refreshVisibility(this, hardwareId);
-    MainConfigIFace *iface = bound.iface;
-    if (!iface->isValid(bound.reference) || bound.error)
+    d->bound.refreshVisibility(this, hardwareId);
+    MainConfigIFace *iface = d->bound.iface;
+    if (!iface->isValid(d->bound.reference) || d->bound.error)
         applyStyleSheet(this, redSheet());
-    else if (iface->isModified(bound.reference))
+    else if (iface->isModified(d->bound.reference))
         applyStyleSheet(this, yellowSheet());
     else
         applyStyleSheet(this, whiteSheet());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/qtcompat_p.h"
 
 namespace {
@@ -29,7 +30,13 @@ const QString &radioSheet(bool modified)
 }
 } // namespace
 
-CfgRadioButton::CfgRadioButton(QWidget *parent) : QRadioButton(parent)
+struct CfgRadioButton::Private
+{
+    BoundControl bound;
+};
+
+CfgRadioButton::CfgRadioButton(QWidget *parent)
+    : QRadioButton(parent), d(std::make_unique<Private>())
 {
     connect(this, SIGNAL(pressed()), this, SLOT(change()));
     drawBitmap(true, false);
@@ -40,37 +47,37 @@ CfgRadioButton::~CfgRadioButton() = default;
 void CfgRadioButton::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                   QList<QWidget *> relatedWidgets)
 {
-    if (!bound.bind(iface, ref, relatedWidgets))
+    if (!d->bound.bind(iface, ref, relatedWidgets))
         return;
-    setToolTip(bound.record().toolTip);
-    const MainConfigObject &object = bound.record();
+    setToolTip(d->bound.record().toolTip);
+    const MainConfigObject &object = d->bound.record();
     if (object.type == 4)
         setChecked(qtcompat::sameValue(QVariant(object.value.toUInt()), object.minimum));
-    bound.registerIn(this, label);
+    d->bound.registerIn(this, label);
 }
 
 void CfgRadioButton::change()
 {
-    if (!bound.iface)
+    if (!d->bound.iface)
         return;
     // Runs on press, so pressing a checked button writes its value again.
-    const QVariant choice = bound.record().minimum;
-    bound.iface->setValue(bound.reference, choice);
+    const QVariant choice = d->bound.record().minimum;
+    d->bound.iface->setValue(d->bound.reference, choice);
     updateControl(0);
 }
 
 void CfgRadioButton::setSelected(int value)
 {
-    if (bound.iface && bound.record().type == 4)
-        setChecked(qtcompat::sameValue(QVariant(value), bound.record().minimum));
+    if (d->bound.iface && d->bound.record().type == 4)
+        setChecked(qtcompat::sameValue(QVariant(value), d->bound.record().minimum));
     updateControl(0);
 }
 
 void CfgRadioButton::updateControl(int hardwareId)
 {
-    if (!bound.refreshVisibility(this, hardwareId))
+    if (!d->bound.refreshVisibility(this, hardwareId))
         return;
-    drawBitmap(isEnabled(), bound.iface->isModified(bound.reference));
+    drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
 }
 
 void CfgRadioButton::drawBitmap(bool enabled, bool modified)

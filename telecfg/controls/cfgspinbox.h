@@ -2,34 +2,48 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "telecfg/controls/boundcontrol.h"
+#include "telecfg/config/mainconfig.h"
 #include "telecfg/telecfg_export.h"
 
 #include <QSpinBox>
+#include <memory>
 
-// A spin box bound to one whole-number parameter: bounds and step from the record, read
-// signed for type 21 and unsigned otherwise; every edit is written as an int. A value that
-// is no multiple of `step` is written all the same and painted red.
+/// A spin box bound to one whole-number parameter: bounds and step from the record, read
+/// signed for type 21 and unsigned otherwise; every edit is written as an int. A value that
+/// is no multiple of `step` is written all the same and painted red.
 class TELECFG_EXPORT CfgSpinBox : public QSpinBox
 {
     Q_OBJECT
 
 public:
+    /// Creates an unbound control; bind it with setReference().
+    /// @param parent the owning widget, as for every widget; may be null.
     explicit CfgSpinBox(QWidget *parent = nullptr);
+    /// Destroys the control; the host's table and the related widgets are left alone.
     ~CfgSpinBox() override;
 
+    /// @copydoc CfgCheckBox::setReference
     void setReference(MainConfigIFace *iface, int ref, QWidget *label,
                       QList<QWidget *> relatedWidgets);
+    /// @copydoc CfgCheckBox::updateControl
     void updateControl(int hardwareId);
+    /// @copydoc CfgCheckBox::updateEnableState
     void updateEnableState(bool state);
+    /// @copydoc CfgCheckBox::setEnabled
     void setEnabled(bool bEnable);
+    /// @copydoc CfgCheckBox::setHidden
     void setHidden(bool hidden);
+    /// @copydoc CfgCheckBox::setError
     void setError(bool error);
+    /// @copydoc CfgCheckBox::isError
     bool isError();
 
 private slots:
     void updateValue(int val);
 
 private:
-    BoundControl bound;
+    /// The binding and the control's own state, behind a pointer so that they can change
+    /// within 1.x without changing the class's size (docs/abi.md).
+    struct Private;
+    const std::unique_ptr<Private> d;
 };

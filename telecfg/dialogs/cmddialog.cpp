@@ -7,10 +7,21 @@
 #include <QDebug>
 #include <algorithm>
 
-CmdDialog::CmdDialog(QWidget *parent, QHash<int, QString> &commandList)
-    : QDialog(parent), ui(new Ui::CmdDialog), commands(&commandList)
+struct CmdDialog::Private
 {
+    Ui::CmdDialog ui;
+    QHash<int, QString> *commands = nullptr;
+};
+
+CmdDialog::CmdDialog(QWidget *parent, QHash<int, QString> &commandList)
+    : QDialog(parent), d(std::make_unique<Private>())
+{
+    d->commands = &commandList;
+    Ui::CmdDialog *ui = &d->ui;
+    QHash<int, QString> *commands = d->commands;
     ui->setupUi(this);
+    connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &CmdDialog::buttonsAccepted);
+    connect(ui->buttonBox, &QDialogButtonBox::rejected, this, &CmdDialog::buttonsRejected);
 
     if (!commands->isEmpty()) {
         QList<int> keys = commands->keys();
@@ -33,23 +44,20 @@ CmdDialog::CmdDialog(QWidget *parent, QHash<int, QString> &commandList)
     ui->leCmd->setFocus(Qt::OtherFocusReason);
 }
 
-CmdDialog::~CmdDialog()
-{
-    delete ui;
-}
+CmdDialog::~CmdDialog() = default;
 
 QString CmdDialog::getCmd()
 {
-    if (!ui || !ui->leCmd)
+    if (!d->ui.leCmd)
         return QString();
 
-    const QString typed = ui->leCmd->currentText();
+    QString typed = d->ui.leCmd->currentText();
     QString wantedCommand;
     QString wantedArgument;
     splitCommandAndArg(typed, wantedCommand, wantedArgument);
 
-    for (int i = 0; i < ui->leCmd->count(); ++i) {
-        const QString itemText = ui->leCmd->itemText(i);
+    for (int i = 0; i < d->ui.leCmd->count(); ++i) {
+        QString itemText = d->ui.leCmd->itemText(i);
         QString command;
         QString argument;
         splitCommandAndArg(itemText, command, argument);
@@ -59,12 +67,12 @@ QString CmdDialog::getCmd()
     return typed;
 }
 
-void CmdDialog::on_buttonBox_accepted()
+void CmdDialog::buttonsAccepted()
 {
     QDialog::accept();
 }
 
-void CmdDialog::on_buttonBox_rejected()
+void CmdDialog::buttonsRejected()
 {
     QDialog::reject();
 }

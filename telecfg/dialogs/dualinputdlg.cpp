@@ -7,9 +7,9 @@
 #include <QLocale>
 
 namespace {
-const char integerPattern[] = "^[0-9]\\d{0,5}$";
-const char pointPattern[] = "-?\\d+(\\.\\d{1,%1}){0,1}";
-const char commaPattern[] = "-?\\d+(,\\d{1,%1}){0,1}";
+const char integerPattern[] = R"(^[0-9]\d{0,5}$)";
+const char pointPattern[] = R"(-?\d+(\.\d{1,%1}){0,1})";
+const char commaPattern[] = R"(-?\d+(,\d{1,%1}){0,1})";
 
 QString firstFieldPattern(int decimals)
 {
@@ -21,39 +21,42 @@ QString firstFieldPattern(int decimals)
 }
 } // namespace
 
-DualInputDlg::DualInputDlg(int decimals, QWidget *parent)
-    : QDialog(parent), ui(new Ui::DualInputDlg)
+struct DualInputDlg::Private
 {
+    Ui::DualInputDlg ui;
+};
+
+DualInputDlg::DualInputDlg(int decimals, QWidget *parent)
+    : QDialog(parent), d(std::make_unique<Private>())
+{
+    Ui::DualInputDlg *ui = &d->ui;
     ui->setupUi(this);
     ui->lineEdit->setValidator(qtcompat::regExpValidator(firstFieldPattern(decimals), this));
     ui->lineEdit_2->setValidator(
         qtcompat::regExpValidator(QLatin1String(integerPattern), this));
 }
 
-DualInputDlg::~DualInputDlg()
-{
-    delete ui;
-}
+DualInputDlg::~DualInputDlg() = default;
 
 void DualInputDlg::setLabels(QString first, QString second)
 {
-    ui->label->setText(first);
-    ui->label_2->setText(second);
+    d->ui.label->setText(first);
+    d->ui.label_2->setText(second);
 }
 
 void DualInputDlg::SetValue1(QString text)
 {
-    ui->lineEdit->setText(text);
+    d->ui.lineEdit->setText(text);
     // Deliberately the second field, not the one just set: the user goes on from there.
-    ui->lineEdit_2->setFocus(Qt::OtherFocusReason);
+    d->ui.lineEdit_2->setFocus(Qt::OtherFocusReason);
 }
 
 QString DualInputDlg::getValue1()
 {
-    return ui->lineEdit->text();
+    return d->ui.lineEdit->text();
 }
 
 QString DualInputDlg::getValue2()
 {
-    return ui->lineEdit_2->text();
+    return d->ui.lineEdit_2->text();
 }

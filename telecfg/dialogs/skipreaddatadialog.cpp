@@ -3,45 +3,84 @@
 #include "telecfg/dialogs/skipreaddatadialog.h"
 #include "ui_skipreaddatadialog.h"
 
+struct SkipReadDataDialog::Private
+{
+    bool skipBt = false;
+    bool skipFuel = false;
+    bool skipCan = false;
+    bool skipConf = false;
+    bool skipDallas = false;
+    Ui::SkipReadDataDialog ui;
+};
+
 SkipReadDataDialog::SkipReadDataDialog(QWidget *parent, bool skipBt, bool skipFuel, bool skipCan,
                                        bool skipConf, bool skipDallas)
-    : QDialog(parent), skipBt(skipBt), skipFuel(skipFuel), skipCan(skipCan), skipConf(skipConf),
-      skipDallas(skipDallas), ui(new Ui::SkipReadDataDialog)
+    : QDialog(parent), d(std::make_unique<Private>())
 {
+    d->skipBt = skipBt;
+    d->skipFuel = skipFuel;
+    d->skipCan = skipCan;
+    d->skipConf = skipConf;
+    d->skipDallas = skipDallas;
+    Ui::SkipReadDataDialog *ui = &d->ui;
     ui->setupUi(this);
+    connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &SkipReadDataDialog::buttonsAccepted);
+    connect(ui->buttonBox, &QDialogButtonBox::rejected, this, &SkipReadDataDialog::buttonsRejected);
     setWindowTitle(tr("Odczyt - pomijane dane"));
 }
 
-SkipReadDataDialog::~SkipReadDataDialog()
-{
-    delete ui;
-}
+SkipReadDataDialog::~SkipReadDataDialog() = default;
 
 int SkipReadDataDialog::exec()
 {
-    ui->cbBt->setChecked(skipBt);
-    ui->cbFuel->setChecked(skipFuel);
-    ui->cbCan->setChecked(skipCan);
-    ui->cbConf->setChecked(skipConf);
-    ui->cbDallas->setChecked(skipDallas);
+    d->ui.cbBt->setChecked(d->skipBt);
+    d->ui.cbFuel->setChecked(d->skipFuel);
+    d->ui.cbCan->setChecked(d->skipCan);
+    d->ui.cbConf->setChecked(d->skipConf);
+    d->ui.cbDallas->setChecked(d->skipDallas);
 
     const int result = QDialog::exec();
     if (result == QDialog::Accepted) {
-        skipBt = ui->cbBt->isChecked();
-        skipFuel = ui->cbFuel->isChecked();
-        skipCan = ui->cbCan->isChecked();
-        skipConf = ui->cbConf->isChecked();
-        skipDallas = ui->cbDallas->isChecked();
+        d->skipBt = d->ui.cbBt->isChecked();
+        d->skipFuel = d->ui.cbFuel->isChecked();
+        d->skipCan = d->ui.cbCan->isChecked();
+        d->skipConf = d->ui.cbConf->isChecked();
+        d->skipDallas = d->ui.cbDallas->isChecked();
     }
     return result;
 }
 
-void SkipReadDataDialog::on_buttonBox_accepted()
+void SkipReadDataDialog::buttonsAccepted()
 {
     QDialog::accept();
 }
 
-void SkipReadDataDialog::on_buttonBox_rejected()
+void SkipReadDataDialog::buttonsRejected()
 {
     QDialog::reject();
+}
+
+bool SkipReadDataDialog::getSkipBt() const
+{
+    return d->skipBt;
+}
+
+bool SkipReadDataDialog::getSkipFuel() const
+{
+    return d->skipFuel;
+}
+
+bool SkipReadDataDialog::getSkipCan() const
+{
+    return d->skipCan;
+}
+
+bool SkipReadDataDialog::getSkipConf() const
+{
+    return d->skipConf;
+}
+
+bool SkipReadDataDialog::getSkipDallas() const
+{
+    return d->skipDallas;
 }

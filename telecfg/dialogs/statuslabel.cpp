@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/statuslabel.h"
 
+#include <QTimer>
+
 namespace {
 const int defaultHighlightMs = 2000;
 
@@ -17,10 +19,16 @@ QString restingFrame()
 }
 } // namespace
 
-StatusLabel::StatusLabel(QWidget *parent) : QLabel(parent)
+struct StatusLabel::Private
 {
-    timer.setSingleShot(true);
-    connect(&timer, SIGNAL(timeout()), this, SLOT(resetTimer()));
+    QTimer timer;
+    State state = StateNone;
+};
+
+StatusLabel::StatusLabel(QWidget *parent) : QLabel(parent), d(std::make_unique<Private>())
+{
+    d->timer.setSingleShot(true);
+    connect(&d->timer, SIGNAL(timeout()), this, SLOT(resetTimer()));
 }
 
 StatusLabel::~StatusLabel() = default;
@@ -29,10 +37,10 @@ void StatusLabel::setValue(QVariant value, StatusLabel::State newState, bool hig
                            int durationMs)
 {
     const QString newText = value.toString();
-    if (text() == newText && newState == state && durationMs == 0)
+    if (text() == newText && newState == d->state && durationMs == 0)
         return;
 
-    state = newState;
+    d->state = newState;
     setText(newText);
 
     QString sheet;
@@ -42,7 +50,7 @@ void StatusLabel::setValue(QVariant value, StatusLabel::State newState, bool hig
     } else {
         sheet = highlightFrame();
         // A negative duration would leave the frame up for good; it gets the default instead.
-        timer.start(durationMs > 0 ? durationMs : defaultHighlightMs);
+        d->timer.start(durationMs > 0 ? durationMs : defaultHighlightMs);
     }
     setStyleSheet(sheet + addState());
 }
@@ -50,12 +58,12 @@ void StatusLabel::setValue(QVariant value, StatusLabel::State newState, bool hig
 void StatusLabel::resetTimer()
 {
     setStyleSheet(restingFrame() + addState());
-    timer.stop();
+    d->timer.stop();
 }
 
 QString StatusLabel::addState()
 {
-    switch (state) {
+    switch (d->state) {
     case StateNone:
         return QStringLiteral("QLabel {};");
     case StateGreen:

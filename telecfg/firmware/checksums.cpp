@@ -38,6 +38,8 @@ quint32 crc16(QByteArray &data)
     return quint16(~crc16Bytes(0xFFFF, p, p + data.size()));
 }
 
+// `data` stays non-const: hosts' binaries call this exact signature.
+// NOLINTNEXTLINE(readability-non-const-parameter)
 void crc16(quint16 *crc, char *data, int length)
 {
     if (!crc || !data || length <= 0)

@@ -156,7 +156,7 @@ QByteArray wordChain(const QByteArray &data, bool encoding)
     for (int i = 0; i < words; ++i) {
         const quint32 in = readLe32(data, i * 4);
         const quint32 result = in ^ (previous + legacyChainConstant);
-        putLe32(bytes(out) + i * 4, result);
+        putLe32(bytes(out) + std::ptrdiff_t(i) * 4, result);
         previous = encoding ? result : in;
     }
     return out;
@@ -168,9 +168,7 @@ QByteArray readWholeFile(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QByteArray();
-    const QByteArray content = file.readAll();
-    file.close();
-    return content;
+    return file.readAll();
 }
 
 // Written beside the target and renamed over it only once complete: a write that fails
@@ -404,7 +402,7 @@ QByteArray firmware::decode(const QByteArray &array)
 {
     if (page <= 0)
         return QByteArray();
-    const quint64 pageSize = quint64(page);
+    const auto pageSize = quint64(page);
     const quint64 record = pageSize + 8;
     // Unsigned on purpose: an array shorter than 8 bytes wraps to a huge count and fails.
     const quint64 rest = quint32(array.size()) - 8u;
@@ -430,7 +428,7 @@ int firmware::decrypt(QByteArray &file, int &hw1, int &hw2, const unsigned char 
     hw2 = readLe16(file, 2);
     if (headerOnly)
         return 0;
-    const qint32 length = qint32(readLe32(file, 8));
+    const auto length = qint32(readLe32(file, 8));
     file.remove(0, headerSize);
     BlockCipher::applyOnce(outerKey, BlockCipher::Decipher, file);
     if (length < file.size())
@@ -599,7 +597,7 @@ int firmware::getFirmwareFromFile(QByteArray &file, int &hw1, int &hw2, const un
 {
     if (file.size() < headerSize)
         return 1;
-    const qint32 length = qint32(readLe32(file, 8));
+    const auto length = qint32(readLe32(file, 8));
     if (file.size() < length)
         return 3;
     if (file.size() % 16 != 0)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/import/readblockconfigwizard.h"
 
+#include <QPointer>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
@@ -31,9 +33,36 @@ public:
 };
 } // namespace
 
-ReadBlockConfigWizard::ReadBlockConfigWizard(const QString &path, QWidget *parent)
-    : QObject(parent), filePath(path), parentWidget(parent)
+struct ReadBlockConfigWizard::Private
 {
+    struct BlockStruct
+    {
+        qint32 id;
+        QPointer<QCheckBox> checkBox;
+        QString title;
+    };
+
+    QString filePath;
+    // Guarded pointers: the dialogs belong to the parent widget too, and the fuel widgets
+    // die with a dialog that clear() deletes while these keep pointing at them.
+    QPointer<QDialog> blockDialog;
+    QPointer<QFileDialog> fileDialog;
+    QPointer<QPushButton> nextButton;
+    QPointer<QFormLayout> fuelLayout;
+    QPointer<QCheckBox> fuelCheckBox;
+    QMap<int, QPointer<QComboBox>> fuelComboBoxes;
+    QPointer<QWidget> parentWidget;
+    QList<BlockStruct> blockStructList;
+    QMap<int, bool> blockStateMap;
+    // Dialogs of earlier successful runs when there is no parent widget to own them.
+    QList<QPointer<QWidget>> unparentedDialogs;
+};
+
+ReadBlockConfigWizard::ReadBlockConfigWizard(const QString &path, QWidget *parent)
+    : QObject(parent), d(std::make_unique<Private>())
+{
+    d->filePath = path;
+    d->parentWidget = parent;
     fillBlockStructList();
     fillBlockStateMap();
 }
@@ -41,7 +70,7 @@ ReadBlockConfigWizard::ReadBlockConfigWizard(const QString &path, QWidget *paren
 ReadBlockConfigWizard::~ReadBlockConfigWizard()
 {
     clear();
-    qDeleteAll(unparentedDialogs);
+    qDeleteAll(d->unparentedDialogs);
 }
 
 int ReadBlockConfigWizard::exec(const QString &directory)
@@ -50,20 +79,20 @@ int ReadBlockConfigWizard::exec(const QString &directory)
     // open deletes the wizard too, and nothing of it may be touched after exec returns.
     const QPointer<ReadBlockConfigWizard> alive(this);
     createBlockConfigChoseDialog();
-    const int chosen = blockDialog->exec();
+    const int chosen = d->blockDialog->exec();
     if (!alive)
         return 1;
-    if (chosen != QDialog::Accepted || !blockDialog) {
+    if (chosen != QDialog::Accepted || !d->blockDialog) {
         clear();
         return 1;
     }
     setBlockStateList();
 
     createFileDialog(directory);
-    const int opened = fileDialog->exec();
+    const int opened = d->fileDialog->exec();
     if (!alive)
         return 2;
-    if (opened != QDialog::Accepted || !fileDialog) {
+    if (opened != QDialog::Accepted || !d->fileDialog) {
         clear();
         return 2;
     }
@@ -74,10 +103,10 @@ int ReadBlockConfigWizard::exec(const QString &directory)
 ReadBlockConfigWizard::Output ReadBlockConfigWizard::getOutput()
 {
     Output output;
-    output.filePath = filePath;
-    output.blockStates = blockStateMap;
+    output.filePath = d->filePath;
+    output.blockStates = d->blockStateMap;
     for (int tab = 1; tab <= fuelTabCount; ++tab) {
-        QComboBox *combo = fuelComboBoxes[tab];
+        QComboBox *combo = d->fuelComboBoxes[tab];
         output.fuelSections[tab] = combo ? combo->currentData(Qt::UserRole).toInt() : 0;
     }
     return output;
@@ -85,110 +114,110 @@ ReadBlockConfigWizard::Output ReadBlockConfigWizard::getOutput()
 
 void ReadBlockConfigWizard::fillBlockStructList()
 {
-    blockStructList.append({BlockFuel, nullptr, tr("Charakterystyka paliwa")});
-    blockStructList.append({BlockDrivers, nullptr, tr("Identyfikatory kierowców")});
-    blockStructList.append({BlockNetworks, nullptr, tr("Sieci dozwolone")});
+    d->blockStructList.append({BlockFuel, nullptr, tr("Charakterystyka paliwa")});
+    d->blockStructList.append({BlockDrivers, nullptr, tr("Identyfikatory kierowców")});
+    d->blockStructList.append({BlockNetworks, nullptr, tr("Sieci dozwolone")});
 }
 
 void ReadBlockConfigWizard::fillBlockStateMap()
 {
-    blockStateMap[BlockFuel] = false;
-    blockStateMap[BlockDrivers] = false;
-    blockStateMap[BlockNetworks] = false;
+    d->blockStateMap[BlockFuel] = false;
+    d->blockStateMap[BlockDrivers] = false;
+    d->blockStateMap[BlockNetworks] = false;
 }
 
 void ReadBlockConfigWizard::createBlockConfigChoseDialog()
 {
     // A further run after a result of 0 leaves the earlier dialogs to their parent.
-    if (!parentWidget) {
+    if (!d->parentWidget) {
         for (QWidget *dialog :
-             {static_cast<QWidget *>(blockDialog), static_cast<QWidget *>(fileDialog)}) {
+             {static_cast<QWidget *>(d->blockDialog), static_cast<QWidget *>(d->fileDialog)}) {
             if (dialog)
-                unparentedDialogs.append(dialog);
+                d->unparentedDialogs.append(dialog);
         }
     }
 
-    blockDialog = new QDialog(parentWidget);
-    blockDialog->setWindowTitle(tr("Import konfiguracji z pliku"));
+    d->blockDialog = new QDialog(d->parentWidget);
+    d->blockDialog->setWindowTitle(tr("Import konfiguracji z pliku"));
 
-    auto *layout = new QVBoxLayout(blockDialog);
+    auto *layout = new QVBoxLayout(d->blockDialog);
     layout->addWidget(new QLabel(tr("Proszę wybrać bloki konfiguracji do importu:")));
     layout->addSpacing(5);
 
-    auto *buttonBox = new QDialogButtonBox(Qt::Horizontal, blockDialog);
-    nextButton = buttonBox->addButton(tr("Dalej"), QDialogButtonBox::AcceptRole);
-    nextButton->setEnabled(false);
+    auto *buttonBox = new QDialogButtonBox(Qt::Horizontal, d->blockDialog);
+    d->nextButton = buttonBox->addButton(tr("Dalej"), QDialogButtonBox::AcceptRole);
+    d->nextButton->setEnabled(false);
     buttonBox->addButton(tr("Anuluj"), QDialogButtonBox::RejectRole);
 
-    for (BlockStruct &block : blockStructList) {
+    for (Private::BlockStruct &block : d->blockStructList) {
         block.checkBox = new QCheckBox(block.title);
         layout->addWidget(block.checkBox);
         // Only the fuel block can be imported; the others are shown, never offered.
         if (block.id != BlockFuel)
             block.checkBox->setEnabled(false);
         if (block.id == BlockFuel) {
-            fuelCheckBox = block.checkBox;
+            d->fuelCheckBox = block.checkBox;
             layout->addLayout(createFuelSection());
         }
         connect(block.checkBox, &QCheckBox::stateChanged, this, [this] { updateNextButton(); });
     }
 
-    connect(buttonBox, SIGNAL(accepted()), blockDialog, SLOT(accept()));
-    connect(buttonBox, SIGNAL(rejected()), blockDialog, SLOT(reject()));
+    connect(buttonBox, SIGNAL(accepted()), d->blockDialog, SLOT(accept()));
+    connect(buttonBox, SIGNAL(rejected()), d->blockDialog, SLOT(reject()));
     layout->addWidget(buttonBox);
 }
 
 QFormLayout *ReadBlockConfigWizard::createFuelSection()
 {
-    fuelLayout = new QFormLayout;
+    d->fuelLayout = new QFormLayout;
     // Indented so that the rows read as part of the fuel block above them.
-    fuelLayout->setContentsMargins(24, 0, 0, 6);
+    d->fuelLayout->setContentsMargins(24, 0, 0, 6);
 
     QList<QPair<QString, int>> sections;
     for (int n = 1; n <= fuelTabCount; ++n) {
         auto *combo = new QComboBox;
-        fuelComboBoxes[n] = combo;
+        d->fuelComboBoxes[n] = combo;
         sections.append({tr("Sekcja %1").arg(n), n});
-        fuelLayout->addRow(new QLabel(tr("Zakładka paliwo %1").arg(n)), combo);
+        d->fuelLayout->addRow(new QLabel(tr("Zakładka paliwo %1").arg(n)), combo);
         connect(combo, SIGNAL(currentIndexChanged(int)), this, SLOT(setComboBoxFuel(int)));
     }
 
     // The slot already runs while the items arrive; the selections below settle it.
     for (const auto &section : qAsConst(sections)) {
-        for (QComboBox *combo : qAsConst(fuelComboBoxes)) {
+        for (QComboBox *combo : qAsConst(d->fuelComboBoxes)) {
             if (combo)
                 combo->addItem(section.first, QVariant(section.second));
         }
     }
-    for (auto it = fuelComboBoxes.cbegin(); it != fuelComboBoxes.cend(); ++it) {
+    for (auto it = d->fuelComboBoxes.cbegin(); it != d->fuelComboBoxes.cend(); ++it) {
         if (*it)
             (*it)->setCurrentIndex((*it)->findData(QVariant(it.key()), Qt::UserRole,
                                                    Qt::MatchExactly | Qt::MatchCaseSensitive));
     }
 
-    connect(fuelCheckBox, &QCheckBox::stateChanged, this, [this] { updateFuelRows(); });
-    emit fuelCheckBox->stateChanged(0);
-    return fuelLayout;
+    connect(d->fuelCheckBox, &QCheckBox::stateChanged, this, [this] { updateFuelRows(); });
+    emit d->fuelCheckBox->stateChanged(0);
+    return d->fuelLayout;
 }
 
 void ReadBlockConfigWizard::updateNextButton()
 {
-    if (!nextButton)
+    if (!d->nextButton)
         return;
     bool anyChecked = false;
-    for (const BlockStruct &block : qAsConst(blockStructList))
+    for (const Private::BlockStruct &block : qAsConst(d->blockStructList))
         anyChecked = anyChecked || (block.checkBox && block.checkBox->isChecked());
-    nextButton->setEnabled(anyChecked);
+    d->nextButton->setEnabled(anyChecked);
 }
 
 void ReadBlockConfigWizard::updateFuelRows()
 {
-    if (!fuelCheckBox || !fuelLayout)
+    if (!d->fuelCheckBox || !d->fuelLayout)
         return;
-    const bool enabled = fuelCheckBox->isChecked();
-    for (int row = 0; row < fuelLayout->rowCount(); ++row) {
+    const bool enabled = d->fuelCheckBox->isChecked();
+    for (int row = 0; row < d->fuelLayout->rowCount(); ++row) {
         for (auto role : {QFormLayout::LabelRole, QFormLayout::FieldRole}) {
-            if (QLayoutItem *item = fuelLayout->itemAt(row, role)) {
+            if (QLayoutItem *item = d->fuelLayout->itemAt(row, role)) {
                 if (QWidget *widget = item->widget())
                     widget->setEnabled(enabled);
             }
@@ -214,7 +243,7 @@ void ReadBlockConfigWizard::setComboBoxFuel(int newIndex)
     QMap<int, bool> taken;
     for (int section = 1; section <= fuelTabCount; ++section)
         taken[section] = false;
-    for (QComboBox *combo : qAsConst(fuelComboBoxes)) {
+    for (QComboBox *combo : qAsConst(d->fuelComboBoxes)) {
         if (!combo)
             continue;
         const int value = combo->currentData(Qt::UserRole).toInt();
@@ -222,7 +251,7 @@ void ReadBlockConfigWizard::setComboBoxFuel(int newIndex)
             taken[value] = true;
     }
 
-    for (QComboBox *combo : qAsConst(fuelComboBoxes)) {
+    for (QComboBox *combo : qAsConst(d->fuelComboBoxes)) {
         if (!combo || combo == sender || combo->currentData(Qt::UserRole).toInt() != wanted)
             continue;
         int freeSection = 0;
@@ -241,8 +270,8 @@ void ReadBlockConfigWizard::setComboBoxFuel(int newIndex)
 
 void ReadBlockConfigWizard::setBlockStateList()
 {
-    for (auto it = blockStateMap.begin(); it != blockStateMap.end(); ++it) {
-        for (const BlockStruct &block : qAsConst(blockStructList)) {
+    for (auto it = d->blockStateMap.begin(); it != d->blockStateMap.end(); ++it) {
+        for (const Private::BlockStruct &block : qAsConst(d->blockStructList)) {
             if (block.id == it.key())
                 it.value() = block.checkBox && block.checkBox->isChecked();
         }
@@ -254,32 +283,32 @@ void ReadBlockConfigWizard::createFileDialog(const QString &directory)
     // The caption's spelling is the one hosts' translations know; it stays.
     // File and accept modes stay the toolkit's defaults: a name that does not exist yet
     // is accepted and returned as typed.
-    fileDialog = new QFileDialog(parentWidget, tr("Otwórz plik z konfiguarcją"), directory,
-                                 tr("Konfiguracja (*.cfg)"));
+    d->fileDialog = new QFileDialog(d->parentWidget, tr("Otwórz plik z konfiguarcją"), directory,
+                                    tr("Konfiguracja (*.cfg)"));
 }
 
 void ReadBlockConfigWizard::setFilePath()
 {
-    if (!fileDialog)
+    if (!d->fileDialog)
         return;
-    const QStringList files = fileDialog->selectedFiles();
-    filePath = files.isEmpty() ? QString() : files.first();
+    const QStringList files = d->fileDialog->selectedFiles();
+    d->filePath = files.isEmpty() ? QString() : files.first();
 }
 
 void ReadBlockConfigWizard::clear()
 {
-    if (blockDialog) {
-        delete blockDialog;
-        blockDialog = nullptr;
-        nextButton = nullptr;
-        for (BlockStruct &block : blockStructList)
+    if (d->blockDialog) {
+        delete d->blockDialog;
+        d->blockDialog = nullptr;
+        d->nextButton = nullptr;
+        for (Private::BlockStruct &block : d->blockStructList)
             block.checkBox = nullptr;
-        for (auto it = blockStateMap.begin(); it != blockStateMap.end(); ++it)
+        for (auto it = d->blockStateMap.begin(); it != d->blockStateMap.end(); ++it)
             it.value() = false;
     }
-    if (fileDialog) {
-        delete fileDialog;
-        fileDialog = nullptr;
-        filePath.clear();
+    if (d->fileDialog) {
+        delete d->fileDialog;
+        d->fileDialog = nullptr;
+        d->filePath.clear();
     }
 }

@@ -17,6 +17,15 @@
 CountryCode::CountryCode(QWidget *parent) : QDialog(parent), ui(new Ui::CountryCode)
 {
     ui->setupUi(this);
+    // Connected before the rows are added: adding row 0 builds the operator list.
+    connect(ui->pbCancel, &QPushButton::clicked, this, &CountryCode::cancelClicked);
+    connect(ui->pbOK, &QPushButton::clicked, this, &CountryCode::okClicked);
+    connect(ui->cbCountry, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &CountryCode::countryChosen);
+    connect(ui->cbOperator, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &CountryCode::operatorChosen);
+    connect(ui->leOperator, &QLineEdit::textChanged, this, &CountryCode::operatorTyped);
+    connect(ui->leCountry, &QLineEdit::textChanged, this, &CountryCode::countryTyped);
     if (countryTable.isEmpty())
         fillCountryTable();
 
@@ -63,17 +72,17 @@ quint32 CountryCode::networkId() const
     return (ui->leCountry->text().toUInt(nullptr, 10) << 10) | (mnc & 0x3FF);
 }
 
-void CountryCode::on_pbCancel_clicked()
+void CountryCode::cancelClicked()
 {
     reject();
 }
 
-void CountryCode::on_pbOK_clicked()
+void CountryCode::okClicked()
 {
     accept();
 }
 
-void CountryCode::on_cbCountry_currentIndexChanged(int)
+void CountryCode::countryChosen(int)
 {
     QComboBox *operators = ui->cbOperator;
     operators->clear();
@@ -106,7 +115,7 @@ void CountryCode::on_cbCountry_currentIndexChanged(int)
     ui->leCountry->setText(mcc == CodeUnknown ? QString() : QString::number(mcc));
 }
 
-void CountryCode::on_cbOperator_currentIndexChanged(int)
+void CountryCode::operatorChosen(int)
 {
     // With no current row (while the list is cleared) this reads 0 and writes "0" for a moment.
     const quint32 mnc = ui->cbOperator->currentData().toUInt();
@@ -118,7 +127,7 @@ void CountryCode::on_cbOperator_currentIndexChanged(int)
         ui->leOperator->setText(QString::number(mnc));
 }
 
-void CountryCode::on_leOperator_textChanged(const QString &text)
+void CountryCode::operatorTyped(const QString &text)
 {
     const quint32 code = text == QLatin1String("*") ? CodeAll
                          : text.isEmpty()           ? CodeUnknown
@@ -133,7 +142,7 @@ void CountryCode::on_leOperator_textChanged(const QString &text)
     updateOk();
 }
 
-void CountryCode::on_leCountry_textChanged(const QString &text)
+void CountryCode::countryTyped(const QString &text)
 {
     const quint32 mcc = text.toUInt(nullptr, 10);
     if (!countryTable.contains(mcc))

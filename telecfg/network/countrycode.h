@@ -37,12 +37,12 @@ public:
     quint32 networkId() const;
 
 public slots:
-    void on_pbCancel_clicked();
-    void on_pbOK_clicked();
-    void on_cbCountry_currentIndexChanged(int index);
-    void on_cbOperator_currentIndexChanged(int index);
-    void on_leOperator_textChanged(const QString &text);
-    void on_leCountry_textChanged(const QString &text);
+    void cancelClicked();
+    void okClicked();
+    void countryChosen(int index);
+    void operatorChosen(int index);
+    void operatorTyped(const QString &text);
+    void countryTyped(const QString &text);
 
 private:
     void updateOk();
