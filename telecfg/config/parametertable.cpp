@@ -62,7 +62,21 @@ bool readNumber(const QVariant &value, double *number)
 }
 } // namespace
 
-ParameterTable::ParameterTable(QObject *parent) : QObject(parent)
+struct ParameterTable::Private
+{
+    struct Entry
+    {
+        QVariant stored;
+        Rules rules;
+        Presentation presentation;
+        int group = 0;
+    };
+    QMap<int, MainConfigObject> records;
+    QMap<int, Entry> entries;
+    QList<int> order;
+};
+
+ParameterTable::ParameterTable(QObject *parent) : QObject(parent), d(std::make_unique<Private>())
 {
     registerCollectionTypes();
 }
@@ -71,9 +85,9 @@ ParameterTable::~ParameterTable() = default;
 
 void ParameterTable::clear()
 {
-    records.clear();
-    entries.clear();
-    order.clear();
+    d->records.clear();
+    d->entries.clear();
+    d->order.clear();
     title.clear();
     pages.clear();
     versions.clear();
@@ -169,9 +183,9 @@ QByteArray ParameterTable::saveJson() const
     root.insert(key("hardware"), hardwareList);
     root.insert(key("pages"), pageList);
 
-    for (int ref : order) {
-        const MainConfigObject &object = records[ref];
-        const Entry &entry = entries[ref];
+    for (int ref : qAsConst(d->order)) {
+        const MainConfigObject &object = d->records.constFind(ref).value();
+        const Private::Entry &entry = d->entries.constFind(ref).value();
         QJsonObject json{{key("ref"), ref}};
         auto put = [&json](const char *name, const QJsonValue &value, bool when) {
             if (when)
@@ -231,82 +245,82 @@ QByteArray ParameterTable::saveJson() const
 
 MainConfigObject &ParameterTable::addRecord(int ref, const MainConfigObject &record)
 {
-    if (!entries.contains(ref))
-        order.append(ref);
-    MainConfigObject &object = records[ref] = record;
+    if (!d->entries.contains(ref))
+        d->order.append(ref);
+    MainConfigObject &object = d->records[ref] = record;
     if (object.minVersions.isEmpty())
         object.minVersions[0] = 0;
-    entries[ref].stored = object.value;
+    d->entries[ref].stored = object.value;
     return object;
 }
 
 bool ParameterTable::contains(int ref) const
 {
-    return entries.contains(ref);
+    return d->entries.contains(ref);
 }
 
 QList<int> ParameterTable::parameters() const
 {
-    return order;
+    return d->order;
 }
 
 QVariant ParameterTable::storedValue(int ref) const
 {
-    return entries.value(ref).stored;
+    return d->entries.value(ref).stored;
 }
 
 void ParameterTable::setStoredValue(int ref, const QVariant &value)
 {
-    entries[ref].stored = value;
+    d->entries[ref].stored = value;
 }
 
 ParameterTable::Rules ParameterTable::rules(int ref) const
 {
-    return entries.value(ref).rules;
+    return d->entries.value(ref).rules;
 }
 
 void ParameterTable::setRules(int ref, const Rules &rules)
 {
-    entries[ref].rules = rules;
+    d->entries[ref].rules = rules;
 }
 
 ParameterTable::Presentation ParameterTable::presentation(int ref) const
 {
-    return entries.value(ref).presentation;
+    return d->entries.value(ref).presentation;
 }
 
 void ParameterTable::setPresentation(int ref, const Presentation &presentation)
 {
-    entries[ref].presentation = presentation;
+    d->entries[ref].presentation = presentation;
 }
 
 void ParameterTable::setGroup(int ref, int group)
 {
-    entries[ref].group = group;
+    d->entries[ref].group = group;
 }
 
 quint32 ParameterTable::version() const
 {
-    return records.value(2).value.toUInt();
+    return d->records.value(2).value.toUInt();
 }
 
 void ParameterTable::setVersion(quint32 version)
 {
-    records[2].value = version;
+    d->records[2].value = version;
 }
 
 void ParameterTable::save()
 {
-    for (int ref : qAsConst(order))
-        entries[ref].stored = records[ref].value;
+    for (int ref : qAsConst(d->order))
+        d->entries[ref].stored = d->records[ref].value;
 }
 
 void ParameterTable::revert()
 {
-    for (int ref : qAsConst(order)) {
-        if (sameValue(records[ref].value, entries[ref].stored))
+    for (int ref : qAsConst(d->order)) {
+        if (sameValue(d->records[ref].value, d->entries[ref].stored))
             continue;
-        records[ref].value = entries[ref].stored;
+        d->records[ref].value = d->entries[ref].stored;
         emit valueChanged(ref);
     }
 }
@@ -314,7 +328,7 @@ void ParameterTable::revert()
 QList<int> ParameterTable::modifiedParameters()
 {
     QList<int> refs;
-    for (int ref : qAsConst(order))
+    for (int ref : qAsConst(d->order))
         if (isModified(ref))
             refs.append(ref);
     return refs;
@@ -323,7 +337,7 @@ QList<int> ParameterTable::modifiedParameters()
 QList<int> ParameterTable::invalidParameters()
 {
     QList<int> refs;
-    for (int ref : qAsConst(order))
+    for (int ref : qAsConst(d->order))
         if (!isValid(ref))
             refs.append(ref);
     return refs;
@@ -331,32 +345,32 @@ QList<int> ParameterTable::invalidParameters()
 
 MainConfigObject &ParameterTable::object(int ref)
 {
-    return records[ref];
+    return d->records[ref];
 }
 
 QVariant ParameterTable::value(int ref)
 {
-    return records[ref].value;
+    return d->records[ref].value;
 }
 
 void ParameterTable::setValue(int ref, QVariant v)
 {
-    const bool changed = !sameValue(records[ref].value, v);
-    const int group = entries.value(ref).group;
+    const bool changed = !sameValue(d->records[ref].value, v);
+    const int group = d->entries.value(ref).group;
     if (group != 0) {
-        for (auto it = entries.cbegin(); it != entries.cend(); ++it)
+        for (auto it = d->entries.cbegin(); it != d->entries.cend(); ++it)
             if (it.value().group == group)
-                records[it.key()].value = v;
+                d->records[it.key()].value = v;
     }
-    records[ref].value = v;
+    d->records[ref].value = v;
     if (changed)
         emit valueChanged(ref);
 }
 
 bool ParameterTable::isValid(int ref)
 {
-    const MainConfigObject &record = records[ref];
-    const Rules rule = entries.value(ref).rules;
+    const MainConfigObject &record = d->records[ref];
+    const Rules rule = d->entries.value(ref).rules;
     if (isCollection(record))
         return invalidElements(record, rule.numericCells).isEmpty();
     const QString text = record.value.toString();
@@ -381,27 +395,27 @@ bool ParameterTable::isValid(int ref)
 
 bool ParameterTable::isModified(int ref)
 {
-    return !sameValue(records[ref].value, entries.value(ref).stored);
+    return !sameValue(d->records[ref].value, d->entries.value(ref).stored);
 }
 
 bool ParameterTable::matchesStored(int ref, QVariant candidate)
 {
-    return sameValue(candidate, entries.value(ref).stored);
+    return sameValue(candidate, d->entries.value(ref).stored);
 }
 
 QList<int> ParameterTable::invalidItems(int ref)
 {
-    return invalidElements(records[ref], entries.value(ref).rules.numericCells);
+    return invalidElements(d->records[ref], d->entries.value(ref).rules.numericCells);
 }
 
 QList<int> ParameterTable::modifiedItems(int ref)
 {
-    return differingElements(records[ref], records[ref].value, entries.value(ref).stored);
+    return differingElements(d->records[ref], d->records[ref].value, d->entries.value(ref).stored);
 }
 
 bool ParameterTable::isStoredItem(int ref, QVariant element)
 {
-    return containsElement(records[ref], entries.value(ref).stored, element);
+    return containsElement(d->records[ref], d->entries.value(ref).stored, element);
 }
 
 bool ParameterTable::sameValue(const QVariant &a, const QVariant &b)

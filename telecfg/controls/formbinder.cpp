@@ -14,9 +14,12 @@
 
 #include <QLabel>
 #include <QMap>
+#include <QPointer>
 #include <QRegularExpression>
 
-struct FormBinder::Binding
+namespace {
+// One bound control of the form, with what hides with it.
+struct Binding
 {
     int ref = 0;
     QPointer<QWidget> control;
@@ -26,7 +29,6 @@ struct FormBinder::Binding
     std::function<void(int)> updateControl;
 };
 
-namespace {
 // The bound controls share a protocol but no base class: each is tried by its own type.
 template <class Control>
 bool adapt(QWidget *widget,
@@ -58,6 +60,13 @@ QString versionKeyText(const MainConfigObject &record)
 }
 } // namespace
 
+struct FormBinder::Private
+{
+    QList<Binding> bindings;
+    MainConfigIFace *iface = nullptr;
+    int lastHardwareId = 0;
+};
+
 QString FormBinder::Problem::text() const
 {
     switch (reason) {
@@ -71,15 +80,15 @@ QString FormBinder::Problem::text() const
     return QStringLiteral("%1: no parameter number after \"cfg_\"").arg(objectName);
 }
 
-FormBinder::FormBinder(QObject *parent) : QObject(parent) {}
+FormBinder::FormBinder(QObject *parent) : QObject(parent), d(std::make_unique<Private>()) {}
 
 FormBinder::~FormBinder() = default;
 
 QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *table,
                                             std::function<bool(int)> exists)
 {
-    bindings.clear();
-    iface = table;
+    d->bindings.clear();
+    d->iface = table;
     QList<Problem> problems;
     if (!form || !table)
         return problems;
@@ -130,7 +139,7 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
         }
         for (QWidget *related : relatedByRef.value(ref))
             binding.related.append(related);
-        bindings.append(binding);
+        d->bindings.append(binding);
     }
     rebind();
     return problems;
@@ -138,22 +147,22 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
 
 void FormBinder::rebind()
 {
-    for (const Binding &binding : qAsConst(bindings)) {
+    for (const Binding &binding : qAsConst(d->bindings)) {
         if (!binding.control)
             continue;
         QList<QWidget *> related;
         for (const QPointer<QWidget> &widget : binding.related)
             if (widget)
                 related.append(widget);
-        binding.setReference(iface, binding.ref, binding.label, related);
+        binding.setReference(d->iface, binding.ref, binding.label, related);
     }
 }
 
 void FormBinder::refresh(int hardwareId)
 {
     if (hardwareId != 0)
-        lastHardwareId = hardwareId;
-    for (const Binding &binding : qAsConst(bindings))
+        d->lastHardwareId = hardwareId;
+    for (const Binding &binding : qAsConst(d->bindings))
         if (binding.control)
             binding.updateControl(hardwareId);
 }
@@ -161,7 +170,7 @@ void FormBinder::refresh(int hardwareId)
 QList<int> FormBinder::parameters() const
 {
     QList<int> refs;
-    for (const Binding &binding : bindings)
+    for (const Binding &binding : d->bindings)
         if (binding.control)
             refs.append(binding.ref);
     return refs;
@@ -169,7 +178,7 @@ QList<int> FormBinder::parameters() const
 
 QWidget *FormBinder::control(int ref) const
 {
-    for (const Binding &binding : bindings)
+    for (const Binding &binding : d->bindings)
         if (binding.ref == ref && binding.control)
             return binding.control;
     return nullptr;
@@ -177,9 +186,9 @@ QWidget *FormBinder::control(int ref) const
 
 QString FormBinder::explainHidden(int ref, int hardwareId) const
 {
-    if (!iface)
+    if (!d->iface)
         return QStringLiteral("parameter %1: the form is not bound").arg(ref);
-    return explainHidden(*iface, ref, hardwareId != 0 ? hardwareId : lastHardwareId);
+    return explainHidden(*d->iface, ref, hardwareId != 0 ? hardwareId : d->lastHardwareId);
 }
 
 QString FormBinder::explainHidden(MainConfigIFace &iface, int ref, int hardwareId)
