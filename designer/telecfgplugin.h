@@ -27,7 +27,7 @@ public:
         std::function<QWidget *(QWidget *)> create;
     };
 
-    TelecfgWidget(const Description &description, QObject *parent);
+    TelecfgWidget(const Description &widget, QObject *parent);
 
     QString name() const override { return description.name; }
     QString group() const override { return QStringLiteral("telecfg"); }

@@ -111,15 +111,19 @@ bool ParameterTable::loadJson(const QByteArray &json, QString *error)
                         : parseError.errorString());
     const QJsonObject root = document.object();
     title = root.value(key("title")).toString();
-    for (const QJsonValue &page : root.value(key("pages")).toArray())
+    const QJsonArray pageList = root.value(key("pages")).toArray();
+    for (const auto &page : pageList)
         pages.append(page.toString());
-    for (const QJsonValue &version : root.value(key("versions")).toArray())
+    const QJsonArray versionList = root.value(key("versions")).toArray();
+    for (const auto &version : versionList)
         versions.append(version.toInt());
-    for (const QJsonValue &entry : root.value(key("hardware")).toArray())
+    const QJsonArray hardwareList = root.value(key("hardware")).toArray();
+    for (const auto &entry : hardwareList)
         hardware.append({entry[key("id")].toInt(), entry[key("name")].toString()});
     setVersion(quint32(root.value(key("version")).toInt()));
 
-    for (const QJsonValue &item : root.value(key("parameters")).toArray()) {
+    const QJsonArray parameterList = root.value(key("parameters")).toArray();
+    for (const auto &item : parameterList) {
         const QJsonObject json = item.toObject();
         const int ref = json.value(key("ref")).toInt();
         if (ref <= 2 || contains(ref))
@@ -135,7 +139,8 @@ bool ParameterTable::loadJson(const QByteArray &json, QString *error)
         object.maxVersions = versionMap(json.value(key("maxVersion")));
         object.versionKey = json.value(key("versionKey")).toInt();
         object.licenceGate = json.value(key("licence")).toInt();
-        for (const QJsonValue &id : json.value(key("hardware")).toArray())
+        const QJsonArray hardwareIds = json.value(key("hardware")).toArray();
+        for (const auto &id : hardwareIds)
             object.hardwareIds.append(id.toInt());
         const QJsonArray options = json.value(key("options")).toArray();
         for (int i = 0; i < options.size(); ++i)

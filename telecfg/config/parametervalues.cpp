@@ -54,7 +54,7 @@ QVariantList elementsOf(const QVariant &value)
     QVariantList list;
     if (!isSequence(value))
         return list;
-    const QSequentialIterable iterable = value.value<QSequentialIterable>();
+    const auto iterable = value.value<QSequentialIterable>();
     for (const QVariant &element : iterable)
         list.append(element);
     return list;
@@ -67,8 +67,8 @@ QVariantList placesOf(const MainConfigObject &object, const QVariant &value)
         return elementsOf(value);
     const QVariantList columns = elementsOf(value);
     QVariantList rows;
-    for (int c = 0; c < columns.size(); ++c) {
-        const QVariantList cells = elementsOf(columns[c]);
+    for (const QVariant &column : columns) {
+        const QVariantList cells = elementsOf(column);
         for (int r = 0; r < cells.size(); ++r) {
             if (rows.size() <= r)
                 rows.append(QVariant(QVariantList()));
@@ -197,7 +197,8 @@ QJsonValue toJson(const MainConfigObject &object, const QVariant &value)
     for (const QVariant &place : qAsConst(places)) {
         if (shape == Shape::Table) {
             QJsonArray cells;
-            for (const QVariant &cell : place.toList())
+            const QVariantList placeCells = place.toList();
+            for (const QVariant &cell : placeCells)
                 cells.append(cellToJson(cell.toByteArray()));
             array.append(cells);
         } else if (shape == Shape::Bytes) {
@@ -213,7 +214,7 @@ QJsonValue toJson(const MainConfigObject &object, const QVariant &value)
 
 void writeCollectionShape(const MainConfigObject &object, QJsonObject &json)
 {
-    const QList<uint> columns = object.columnListA.value<QList<uint>>();
+    const auto columns = object.columnListA.value<QList<uint>>();
     if (!columns.isEmpty()) {
         QJsonArray list;
         for (uint column : columns)
@@ -221,9 +222,11 @@ void writeCollectionShape(const MainConfigObject &object, QJsonObject &json)
         json.insert(QLatin1String("columns"), list);
     }
     QJsonObject names;
-    for (const NamedUInt &named : object.valueNames.value<QList<NamedUInt>>())
+    const auto uintNames = object.valueNames.value<QList<NamedUInt>>();
+    for (const NamedUInt &named : uintNames)
         names.insert(QString::number(named.value), named.name);
-    for (const NamedUShort &named : object.valueNames.value<QList<NamedUShort>>())
+    const auto ushortNames = object.valueNames.value<QList<NamedUShort>>();
+    for (const NamedUShort &named : ushortNames)
         names.insert(QString::number(named.value), named.name);
     if (!names.isEmpty())
         json.insert(QLatin1String("names"), names);
@@ -278,7 +281,8 @@ QList<int> invalidElements(const MainConfigObject &object, bool numericCells)
                 !isEmptyElement(key(elements[j])) && sameValue(key(elements[i]), key(elements[j]));
         bool badCell = false;
         if (numericCells) {
-            for (const QVariant &cell : elements[i].toList()) {
+            const QVariantList cells = elements[i].toList();
+            for (const QVariant &cell : cells) {
                 const QByteArray text = cell.toByteArray();
                 bool ok = true;
                 if (!text.isEmpty())
@@ -295,7 +299,8 @@ QList<int> invalidElements(const MainConfigObject &object, bool numericCells)
 bool containsElement(const MainConfigObject &object, const QVariant &collection,
                      const QVariant &element)
 {
-    for (const QVariant &stored : placesOf(object, collection)) {
+    const QVariantList places = placesOf(object, collection);
+    for (const QVariant &stored : places) {
         // A table asks about a row by its identifier, the first cell.
         const QVariant candidate =
             shapeOf(object) == Shape::Table ? stored.toList().value(0) : stored;

@@ -102,7 +102,8 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
     static const QRegularExpression pattern(QStringLiteral("^cfg_(\\d{1,9})(_.*)?$"));
     QList<QPair<QWidget *, int>> controls;
     QMap<int, QList<QWidget *>> relatedByRef;
-    for (QWidget *widget : form->findChildren<QWidget *>()) {
+    const QList<QWidget *> widgets = form->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
         const QString name = widget->objectName();
         if (!name.startsWith(QLatin1String("cfg_")))
             continue;
@@ -170,7 +171,7 @@ void FormBinder::refresh(int hardwareId)
 QList<int> FormBinder::parameters() const
 {
     QList<int> refs;
-    for (const Binding &binding : d->bindings)
+    for (const Binding &binding : qAsConst(d->bindings))
         if (binding.control)
             refs.append(binding.ref);
     return refs;
@@ -178,7 +179,7 @@ QList<int> FormBinder::parameters() const
 
 QWidget *FormBinder::control(int ref) const
 {
-    for (const Binding &binding : d->bindings)
+    for (const Binding &binding : qAsConst(d->bindings))
         if (binding.ref == ref && binding.control)
             return binding.control;
     return nullptr;

@@ -61,15 +61,15 @@ public:
     explicit FormBinder(QObject *parent = nullptr);
     ~FormBinder() override;
 
-    /// Binds the form's controls to `iface`, replacing what the binder held before, and
+    /// Binds the form's controls to `table`, replacing what the binder held before, and
     /// loads each control's value (binding is what loads it).
     /// @param form the designed form; its child widgets are searched. Null binds nothing.
-    /// @param iface the parameter table; null binds nothing. Not owned.
+    /// @param table the parameter table; null binds nothing. Not owned.
     /// @param exists answers whether the table has a parameter; without it a ParameterTable
     ///        answers by its records and any other table is taken to hold every number.
     /// @return the names that did not bind, in the order of the form's widgets; empty when
     ///         every `cfg_` name bound.
-    QList<Problem> bind(QWidget *form, MainConfigIFace *iface,
+    QList<Problem> bind(QWidget *form, MainConfigIFace *table,
                         std::function<bool(int)> exists = {});
     /// Binds every control again: binding is what loads a value into a control, so a host
     /// calls this after it replaced values behind the controls' back (a revert, a load).

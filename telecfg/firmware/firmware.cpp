@@ -366,8 +366,9 @@ int firmware::crypt(QByteArray &image, int hw1, int hw2, const unsigned char *ke
     putLe32(bytes(file) + 28, quint32(image.size()));
     // Room for the whole file, every compressed piece at its largest: the body never moves.
     const qint64 pieces = qMax(0, image.size() - headerSize) / pieceSize + 1;
-    const qint64 room = compress ? 2 * headerSize + pieces * (2 + LZ4_COMPRESSBOUND(pieceSize)) + 16
-                                 : qint64(headerSize) + image.size() + 16;
+    const qint64 room =
+        compress ? 2 * qint64(headerSize) + pieces * (2 + LZ4_COMPRESSBOUND(pieceSize)) + 16
+                 : qint64(headerSize) + image.size() + 16;
     file.reserve(int(qMin<qint64>(room, INT_MAX / 2)));
     file.append(image.left(headerSize));
     if (compress) {
@@ -471,7 +472,7 @@ int recodeAt(QByteArray &file, int offset, const unsigned char *key)
     {
         BlockCipher source(keyOr(key), BlockCipher::Decipher);
         if (blocks > 6)
-            source.apply(block + 6 * 16, qint64(blocks - 6) * 16);
+            source.apply(block + qint64(6) * 16, qint64(blocks - 6) * 16);
         if (blocks > 0)
             std::memcpy(extra, block + qint64(blocks - 1) * 16, 16);
         if (blocks >= 6)
@@ -485,7 +486,7 @@ int recodeAt(QByteArray &file, int offset, const unsigned char *key)
 
     // The first eight blocks: checksummed, and copied with blocks 6 and 7 under the page key.
     for (int i = 0; i < 8; ++i) {
-        const unsigned char *work = i < blocks ? block + i * 16 : extra;
+        const unsigned char *work = i < blocks ? block + qint64(i) * 16 : extra;
         running = crc32next(running, work, 16);
         const int at = result.size();
         result.append(reinterpret_cast<const char *>(work), 16);

@@ -23,7 +23,7 @@ public:
         QString help;
     };
 
-    explicit CommandLine(QVector<Option> options);
+    explicit CommandLine(QVector<Option> list);
 
     // Empty when the arguments fit the options, otherwise what is wrong with them.
     QString parse(const QStringList &arguments);

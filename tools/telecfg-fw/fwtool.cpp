@@ -193,11 +193,10 @@ int FwTool::writeFile(const QString &inputPath, const QString &path, const QByte
     } else {
         // Unbuffered: a buffered write that fails only at commit is not always reported.
         QSaveFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            problem = file.errorString();
-        else if (file.write(content) != content.size())
+        const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        if (opened && file.write(content) != content.size())
             problem = qt_error_string(errno); // the file's own text is lost here
-        else if (!file.commit())
+        else if (!opened || !file.commit())
             problem = file.errorString();
     }
     if (problem.isEmpty())
@@ -418,8 +417,7 @@ QString FwTool::pageTable(const FileReport &report)
         text += QStringLiteral("%1  %2  %3  %4\n")
                     .arg(i + 1, 4)
                     .arg(QString::fromLatin1(page.label), -5)
-                    .arg(hex(page.stored, 8))
-                    .arg(holds ? tr("holds") : tr("FAILS"));
+                    .arg(hex(page.stored, 8), holds ? tr("holds") : tr("FAILS"));
     }
     return text;
 }
