@@ -6,6 +6,8 @@
 #   libtelecfg-dev  component dev       headers, CMake package, telecfg.pc, the link name
 #   telecfg-tools   components tools and designer   telecfg-fw, the Designer plugin
 set(telecfg_runtime_package libtelecfg${PROJECT_VERSION_MAJOR})
+# The Debian revision of the packages: the first packaging of each release.
+set(telecfg_deb_release 1)
 
 # Each package carries the licence and a changelog, as Debian policy asks.
 set(telecfg_docdir ${PROJECT_BINARY_DIR}/package-doc)
@@ -20,7 +22,7 @@ string(REGEX REPLACE "\n([^\n])" "\n \\1" telecfg_license_body "${telecfg_licens
 file(APPEND ${telecfg_docdir}/copyright " ${telecfg_license_body}")
 string(TIMESTAMP telecfg_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 file(WRITE ${telecfg_docdir}/changelog.Debian
-    "telecfg (${PROJECT_VERSION}) unstable; urgency=medium\n\n"
+    "telecfg (${PROJECT_VERSION}-${telecfg_deb_release}) unstable; urgency=medium\n\n"
     "  * Release ${PROJECT_VERSION}; the changes are listed in the project's CHANGELOG.md.\n\n"
     " -- The telecfg authors <telecfg@example.invalid>  ${telecfg_date}\n")
 find_program(GZIP_EXECUTABLE gzip)
@@ -38,6 +40,7 @@ set(CPACK_PACKAGE_NAME telecfg)
 set(CPACK_PACKAGE_VENDOR "The telecfg authors")
 set(CPACK_PACKAGE_CONTACT "The telecfg authors <telecfg@example.invalid>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${telecfg_deb_release})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_GENERATOR DEB)
@@ -49,6 +52,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The tools link the library of this very build: dpkg-shlibdeps finds it here, and the
+# tools' package names the library's package itself (below).
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/telecfg)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://example.invalid/telecfg")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
@@ -64,32 +70,35 @@ cpack_add_component(tools GROUP tools)
 cpack_add_component(designer GROUP tools)
 
 set(CPACK_DEBIAN_LIB_PACKAGE_NAME ${telecfg_runtime_package})
+# The shared library's package has the linker cache rebuilt by a trigger.
+file(WRITE ${telecfg_docdir}/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_LIB_PACKAGE_CONTROL_EXTRA ${telecfg_docdir}/triggers)
 set(CPACK_DEBIAN_LIB_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIB_DESCRIPTION
-    "${PROJECT_DESCRIPTION} - shared library
- telecfg gives a telematics configurator bound form controls over its parameter
- table, the device's firmware files with checksums, compression and encipherment,
- small dialogs and the country and mobile operator table.
- .
- This package holds the shared library.")
+    "telecfg gives a telematics configurator form controls bound to its
+parameter table, the device's firmware files with their checksums,
+compression and encipherment, small dialogs and the country and mobile
+operator table.
+
+This package holds the shared library.")
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libtelecfg-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
-    "${telecfg_runtime_package} (= ${PROJECT_VERSION}), qtbase5-dev")
+    "${telecfg_runtime_package} (= ${PROJECT_VERSION}-${telecfg_deb_release}), qtbase5-dev")
 set(CPACK_DEBIAN_DEV_PACKAGE_SHLIBDEPS OFF)
-set(CPACK_DEBIAN_DEV_PACKAGE_ARCHITECTURE amd64)
 set(CPACK_DEBIAN_DEV_DESCRIPTION
-    "${PROJECT_DESCRIPTION} - development files
- telecfg gives a telematics configurator bound form controls over its parameter
- table, the device's firmware files, small dialogs and the country and mobile
- operator table.
- .
- This package holds the headers, the CMake package and the pkg-config file.")
+    "telecfg gives a telematics configurator form controls bound to its
+parameter table, the device's firmware files, small dialogs and the
+country and mobile operator table.
+
+This package holds the headers, the CMake package, the pkg-config file
+and the static library of the controls' default images.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME telecfg-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS
+    "${telecfg_runtime_package} (= ${PROJECT_VERSION}-${telecfg_deb_release})")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION
-    "${PROJECT_DESCRIPTION} - tools
- telecfg-fw packs, examines, unpacks and verifies the device's firmware files
- without the configurator; the Qt Designer plugin, where built, offers the bound
- controls in the form editor.")
+    "telecfg-fw packs, examines, unpacks and verifies the device's firmware
+files without the configurator. The Qt Designer plugin offers the bound
+controls and the status label in the form editor.")
 include(CPack)
