@@ -30,5 +30,5 @@
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/network/networkchooser.h"
-#include "telecfg/version.h"
 #include "telecfg/translations.h"
+#include "telecfg/version.h"

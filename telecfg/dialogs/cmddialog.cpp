@@ -20,8 +20,6 @@ CmdDialog::CmdDialog(QWidget *parent, QHash<int, QString> &commandList)
     Ui::CmdDialog *ui = &d->ui;
     QHash<int, QString> *commands = d->commands;
     ui->setupUi(this);
-    connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &CmdDialog::buttonsAccepted);
-    connect(ui->buttonBox, &QDialogButtonBox::rejected, this, &CmdDialog::buttonsRejected);
 
     if (!commands->isEmpty()) {
         QList<int> keys = commands->keys();
@@ -67,12 +65,12 @@ QString CmdDialog::getCmd()
     return typed;
 }
 
-void CmdDialog::buttonsAccepted()
+void CmdDialog::on_buttonBox_accepted()
 {
     QDialog::accept();
 }
 
-void CmdDialog::buttonsRejected()
+void CmdDialog::on_buttonBox_rejected()
 {
     QDialog::reject();
 }

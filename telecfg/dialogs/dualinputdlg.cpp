@@ -32,8 +32,7 @@ DualInputDlg::DualInputDlg(int decimals, QWidget *parent)
     Ui::DualInputDlg *ui = &d->ui;
     ui->setupUi(this);
     ui->lineEdit->setValidator(qtcompat::regExpValidator(firstFieldPattern(decimals), this));
-    ui->lineEdit_2->setValidator(
-        qtcompat::regExpValidator(QLatin1String(integerPattern), this));
+    ui->lineEdit_2->setValidator(qtcompat::regExpValidator(QLatin1String(integerPattern), this));
 }
 
 DualInputDlg::~DualInputDlg() = default;

@@ -24,8 +24,6 @@ SkipReadDataDialog::SkipReadDataDialog(QWidget *parent, bool skipBt, bool skipFu
     d->skipDallas = skipDallas;
     Ui::SkipReadDataDialog *ui = &d->ui;
     ui->setupUi(this);
-    connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &SkipReadDataDialog::buttonsAccepted);
-    connect(ui->buttonBox, &QDialogButtonBox::rejected, this, &SkipReadDataDialog::buttonsRejected);
     setWindowTitle(tr("Odczyt - pomijane dane"));
 }
 
@@ -50,12 +48,12 @@ int SkipReadDataDialog::exec()
     return result;
 }
 
-void SkipReadDataDialog::buttonsAccepted()
+void SkipReadDataDialog::on_buttonBox_accepted()
 {
     QDialog::accept();
 }
 
-void SkipReadDataDialog::buttonsRejected()
+void SkipReadDataDialog::on_buttonBox_rejected()
 {
     QDialog::reject();
 }

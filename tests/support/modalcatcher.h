@@ -9,7 +9,6 @@
 #include <QWidget>
 #include <functional>
 
-
 // Watches for modal dialogs and message boxes opened inside the code under test, records
 // what they showed and closes them (or hands them to a test's action, which plays the
 // user). Lives for one test; stops watching when destroyed.

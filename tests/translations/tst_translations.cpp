@@ -11,8 +11,8 @@
 #include "telecfg/network/countrycode.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/translations.h"
-#include "tests/support/modalcatcher.h"
 #include "tests/support/anycontrol.h"
+#include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
