@@ -13,7 +13,6 @@
 class TELECFG_EXPORT firmware
 {
 public:
-    /// Sets the process-wide page size back to 2048.
     /// Creates an empty image with the default fields and sets the process-wide page size back
     /// to 2048.
     firmware();
