@@ -13,9 +13,24 @@ private slots:
     void offersTheWidgets();
 };
 
+// The plugin named by TELECFG_DESIGNER_PLUGIN, else the one Designer would find: in the
+// designer/ folder of a plugin path (QT_PLUGIN_PATH comes first).
+QString pluginFile()
+{
+    const QString named = qEnvironmentVariable("TELECFG_DESIGNER_PLUGIN");
+    if (!named.isEmpty())
+        return named;
+    for (const QString &path : QCoreApplication::libraryPaths()) {
+        const QDir folder(path + QStringLiteral("/designer"));
+        for (const QString &file : folder.entryList({QStringLiteral("*telecfg*_designer*")}))
+            return folder.filePath(file);
+    }
+    return QString();
+}
+
 void TestDesignerPlugin::offersTheWidgets()
 {
-    QPluginLoader loader(qEnvironmentVariable("TELECFG_DESIGNER_PLUGIN"));
+    QPluginLoader loader(pluginFile());
     auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(loader.instance());
     QVERIFY2(collection, qPrintable(loader.errorString()));
 

@@ -10,6 +10,7 @@ add_test(NAME package_consumer
         -DCONSUMER_DIR=${CMAKE_CURRENT_LIST_DIR}/consumer
         -DSANITIZE=${TELECFG_SANITIZE}
         -DDESIGNER_PLUGIN_DIR=$<$<TARGET_EXISTS:telecfg_designer>:${TELECFG_DESIGNER_PLUGIN_DIR}>
+        -DPLUGIN_CHECK=$<$<TARGET_EXISTS:designer_plugincheck>:$<TARGET_FILE:designer_plugincheck>>
         -DPACKAGE=${TELECFG_NAME}
         -DQT_MAJOR=${TELECFG_QT_MAJOR_VERSION}
         -DVERSION=${PROJECT_VERSION}
