@@ -13,3 +13,7 @@ endforeach()
 
 # The default images come from their own optional library.
 target_link_libraries(tst_defaultimages PRIVATE telecfg_images)
+# Again on a screen of device pixel ratio 2, where the sharp variants are drawn.
+add_test(NAME tst_defaultimages_scale2 COMMAND tst_defaultimages)
+set_tests_properties(tst_defaultimages_scale2 PROPERTIES ENVIRONMENT
+    "${telecfg_test_environment};QT_SCALE_FACTOR=2")

@@ -14,8 +14,19 @@ class TestDefaultImages : public QObject
 {
     Q_OBJECT
 
+public:
+    // As a Qt 5 host for high-density screens does; Qt 6 always picks the variants.
+    static void initMain()
+    {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    }
+
 private slots:
     void everyImageTheSheetsName();
+    void sharpAtScaleTwo_data();
+    void sharpAtScaleTwo();
 };
 
 namespace {
@@ -64,7 +75,85 @@ void TestDefaultImages::everyImageTheSheetsName()
     QCOMPARE(urls.size(), 16);
     for (const QString &url : qAsConst(urls))
         QVERIFY2(!QImage(url).isNull(), qPrintable(url));
-    QCOMPARE(QDir(QStringLiteral(":/images")).entryList().size(), 16);
+    // Each with its variant for a device pixel ratio of 2, and nothing else.
+    QCOMPARE(QDir(QStringLiteral(":/images")).entryList().size(), 32);
+}
+
+// Whether `needle` appears pixel for pixel (within a rounding step) somewhere in `haystack`.
+static bool contains(const QImage &haystack, const QImage &needle)
+{
+    const QImage hay = haystack.convertToFormat(QImage::Format_ARGB32);
+    const QImage pin = needle.convertToFormat(QImage::Format_ARGB32);
+    for (int top = 0; top + pin.height() <= hay.height(); ++top) {
+        for (int left = 0; left + pin.width() <= hay.width(); ++left) {
+            bool same = true;
+            for (int y = 0; same && y < pin.height(); ++y) {
+                for (int x = 0; same && x < pin.width(); ++x) {
+                    const QRgb p = pin.pixel(x, y);
+                    if (qAlpha(p) < 255)
+                        continue; // blended with the background
+                    const QRgb h = hay.pixel(left + x, top + y);
+                    same = qAbs(qRed(p) - qRed(h)) <= 2 && qAbs(qGreen(p) - qGreen(h)) <= 2 &&
+                           qAbs(qBlue(p) - qBlue(h)) <= 2;
+                }
+            }
+            if (same)
+                return true;
+        }
+    }
+    return false;
+}
+
+void TestDefaultImages::sharpAtScaleTwo_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("image");
+    QTest::newRow("check box") << "checkbox" << "checkbox_grey_checked";
+    QTest::newRow("modified check box") << "checkbox" << "checkbox_yellow_checked";
+    QTest::newRow("radio button") << "radio" << "radiobutton_selected_black";
+    QTest::newRow("combo box arrow") << "combo" << "arrow";
+}
+
+// On a screen of device pixel ratio 2 (the suite runs again under QT_SCALE_FACTOR=2) a
+// control draws the image's sharp variant, not the small one enlarged.
+void TestDefaultImages::sharpAtScaleTwo()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, image);
+    initDefaultImages();
+    TestHost host;
+    host.add(3, 1, true).minVersions[0] = 0;
+    host.add(4, 4, 1).minimum = 1;
+    host.records[4].minVersions[0] = 0;
+    host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
+    host.records[5].minVersions[0] = 0;
+    if (image.contains(QLatin1String("yellow")))
+        host.modified = {3};
+    std::unique_ptr<QWidget> widget;
+    if (kind == QLatin1String("checkbox")) {
+        auto *box = new CfgCheckBox;
+        widget.reset(box);
+        box->setReference(&host, 3, nullptr, {});
+        box->updateControl(1);
+    } else if (kind == QLatin1String("radio")) {
+        auto *radio = new CfgRadioButton;
+        widget.reset(radio);
+        radio->setReference(&host, 4, nullptr, {});
+        radio->updateControl(1);
+    } else {
+        auto *combo = new CfgComboBox;
+        widget.reset(combo);
+        combo->setReference(&host, 5, nullptr, {});
+        combo->updateControl(1);
+    }
+    widget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
+    const QImage shot = widget->grab().toImage();
+    if (shot.devicePixelRatio() < 2)
+        QSKIP("needs a device pixel ratio of 2 (tst_defaultimages_scale2)");
+    const QImage sharp(QStringLiteral(":/images/%1@2x.png").arg(image));
+    QVERIFY(!sharp.isNull());
+    QVERIFY2(contains(shot, sharp), qPrintable(image));
 }
 
 QTEST_MAIN(TestDefaultImages)
