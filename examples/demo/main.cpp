@@ -9,8 +9,34 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QPalette>
+#include <QStyle>
 #include <QTranslator>
 #include <cstdio>
+
+namespace {
+// A dark palette as desktops in dark mode give one: light text on dark backgrounds.
+void useDarkPalette()
+{
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
+    dark.setColor(QPalette::AlternateBase, QColor(0x42, 0x42, 0x42));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Button, QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::ButtonText, Qt::white);
+    dark.setColor(QPalette::ToolTipBase, QColor(0x2a, 0x2a, 0x2a));
+    dark.setColor(QPalette::ToolTipText, Qt::white);
+    dark.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    dark.setColor(QPalette::Link, QColor(0x2a, 0x82, 0xda));
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, QColor(0x7f, 0x7f, 0x7f));
+    QApplication::setPalette(dark);
+}
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -35,10 +61,15 @@ int main(int argc, char **argv)
         QStringLiteral("lang"),
         QStringLiteral("Language of the library's texts: en or pl (default: the system's)."),
         QStringLiteral("LANG"));
+    const QCommandLineOption darkOption(
+        QStringLiteral("dark"), QStringLiteral("Show the demo in a dark palette (Fusion style)."));
     parser.addOption(tableOption);
     parser.addOption(screenshotOption);
     parser.addOption(langOption);
+    parser.addOption(darkOption);
     parser.process(app);
+    if (parser.isSet(darkOption))
+        useDarkPalette();
 
     // The library's texts are Polish; any other language comes from its embedded catalogues,
     // installed before the first of its widgets or its country table is made.

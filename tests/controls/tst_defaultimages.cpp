@@ -108,10 +108,14 @@ void TestDefaultImages::sharpAtScaleTwo_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("image");
-    QTest::newRow("check box") << "checkbox" << "checkbox_grey_checked";
-    QTest::newRow("modified check box") << "checkbox" << "checkbox_yellow_checked";
-    QTest::newRow("radio button") << "radio" << "radiobutton_selected_black";
-    QTest::newRow("combo box arrow") << "combo" << "arrow";
+    QTest::newRow("check box") << "checkbox"
+                               << "checkbox_grey_checked";
+    QTest::newRow("modified check box") << "checkbox"
+                                        << "checkbox_yellow_checked";
+    QTest::newRow("radio button") << "radio"
+                                  << "radiobutton_selected_black";
+    QTest::newRow("combo box arrow") << "combo"
+                                     << "arrow";
 }
 
 // On a screen of device pixel ratio 2 (the suite runs again under QT_SCALE_FACTOR=2) a
