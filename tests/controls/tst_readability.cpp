@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: 2026 The telecfg authors
+// SPDX-License-Identifier: MIT
+// What every kind of bound control tells in each state beyond its colour, and whether its
+// text can be read, under the default palette and a dark one.
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
+#include "telecfg/controls/cfgradiobutton.h"
+#include "tests/support/anycontrol.h"
+#include "tests/support/testcase.h"
+#include "tests/support/testhost.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QStyleFactory>
+#include <QtTest>
+#include <cmath>
+
+namespace {
+constexpr int ref = 10;
+
+double channel(int value)
+{
+    const double v = value / 255.0;
+    return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+}
+
+double luminance(QRgb c)
+{
+    return 0.2126 * channel(qRed(c)) + 0.7152 * channel(qGreen(c)) + 0.0722 * channel(qBlue(c));
+}
+
+double contrast(QRgb a, QRgb b)
+{
+    const double x = luminance(a), y = luminance(b);
+    return (qMax(x, y) + 0.05) / (qMin(x, y) + 0.05);
+}
+
+QRgb grey(QRgb pixel)
+{
+    const int g = qGray(pixel);
+    return qRgb(g, g, g);
+}
+
+QPalette darkPalette()
+{
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Base, QColor(0x2a, 0x2a, 0x2a));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Button, QColor(0x35, 0x35, 0x35));
+    dark.setColor(QPalette::ButtonText, Qt::white);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, QColor(0x7f, 0x7f, 0x7f));
+    return dark;
+}
+
+// The text's contrast within `area` of `image`: the background is the area's most frequent
+// colour, the text its pixel farthest from it (a glyph's core). The corner cue is left out.
+double textContrast(const QImage &image, const QRect &area)
+{
+    QHash<QRgb, int> counts;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if ((x - area.left()) + (y - area.top()) > 14)
+                ++counts[image.pixel(x, y) | 0xff000000];
+    QRgb background = 0;
+    int most = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        if (it.value() > most)
+            most = it.value(), background = it.key();
+    double best = 1;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+        best = qMax(best, contrast(it.key(), background));
+    return best;
+}
+
+// A kind bound to a record in one state, shown on a form with a label.
+struct Bound
+{
+    QWidget form;
+    QLabel label{QStringLiteral("&Pojemność:"), &form};
+    TestHost host;
+    AnyControl control;
+
+    Bound(const QString &kind, const QString &state) : control(makeAnyControl(kind))
+    {
+        control.widget->setParent(&form);
+        control.widget->setFocusPolicy(Qt::NoFocus);
+        control.widget->move(0, 30);
+        control.widget->resize(220, kind == QLatin1String("list") ||
+                                            kind == QLatin1String("table")
+                                        ? 120
+                                        : 28);
+        MainConfigObject &record = addEditableRecord(host, kind, ref);
+        record.minVersions[0] = 0;
+        record.toolTip = QStringLiteral("Pojemność zbiornika");
+        if (kind == QLatin1String("lineedit"))
+            record.value = QStringLiteral("MMMM 400");
+        else if (kind == QLatin1String("spinbox"))
+            record.value = 88u;
+        else if (kind == QLatin1String("list"))
+            record.value = QVariant::fromValue(QVector<quint32>{8888, 0, 0, 0});
+        else if (kind == QLatin1String("table"))
+            record.value =
+                QVariant::fromValue(ColumnVectors(2, QVector<QByteArray>{"8888", {}, {}, {}}));
+        if (state == QLatin1String("modified")) {
+            host.modified.insert(ref);
+            host.stored[ref] = QStringLiteral("2");
+            host.modifiedItemsOf[ref] = {0};
+        } else if (state == QLatin1String("invalid")) {
+            host.invalid.insert(ref);
+            host.invalidItemsOf[ref] = {0};
+        }
+        control.setReference(&host, ref, &label, {&label});
+        if (state == QLatin1String("invalid") && kind == QLatin1String("combobox"))
+            control.setError(true);
+        if (state == QLatin1String("disabled"))
+            control.setEnabled(false);
+        control.updateControl(1);
+        form.resize(240, 160);
+        form.show();
+    }
+
+    QWidget *widget() const { return control.widget.get(); }
+    auto *view() const { return qobject_cast<QAbstractItemView *>(widget()); }
+
+    // Where the value's text stands, in the coordinates of grab()'s image.
+    QRect textArea() const
+    {
+        if (auto *items = view()) {
+            const QRect cell = items->visualRect(items->model()->index(0, 0));
+            return cell.translated(items->viewport()->pos()).adjusted(1, 1, -1, -1);
+        }
+        const int buttons = widget()->inherits("QAbstractSpinBox") ||
+                                    widget()->inherits("QComboBox")
+                                ? 24
+                                : 0;
+        return widget()->rect().adjusted(3, 3, -3 - buttons, -3);
+    }
+};
+} // namespace
+
+class TestReadability : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void textReadsInEveryPalette_data();
+    void textReadsInEveryPalette();
+    void stateToldBeyondColour_data();
+    void stateToldBeyondColour();
+    void accessibleNameIsTheLabel_data();
+    void accessibleNameIsTheLabel();
+    void stateChangeIsAnnounced();
+};
+
+void TestReadability::initTestCase()
+{
+    allowListConnectionWarning();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+void TestReadability::textReadsInEveryPalette_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<bool>("dark");
+    for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox", "list", "table"})
+        for (const char *state : {"normal", "modified", "invalid", "disabled"})
+            for (bool dark : {false, true})
+                QTest::addRow("%s %s %s", kind, state, dark ? "dark" : "default")
+                    << kind << state << dark;
+}
+
+// Text reaches 4.5:1 against the background the state paints, in any palette.
+void TestReadability::textReadsInEveryPalette()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, state);
+    QFETCH(bool, dark);
+    QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+    Bound bound(kind, state);
+    QVERIFY(QTest::qWaitForWindowExposed(&bound.form));
+    const QImage image = bound.widget()->grab().toImage();
+    const double ratio = textContrast(image, bound.textArea());
+    QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("contrast %1").arg(ratio)));
+}
+
+void TestReadability::stateToldBeyondColour_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("words");
+    for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox",
+                             "radiobutton"})
+        QTest::addRow("%s modified", kind) << kind << "modified" << "Zmieniona";
+    for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox"})
+        QTest::addRow("%s invalid", kind) << kind << "invalid" << "Nieprawidłowa";
+}
+
+// A modified or invalid control says so in its tool tip (after the host's own text) and
+// its accessible description, and shows a cue that tells the state in greyscale too: the
+// state's rendering differs from the normal one by at least 3:1 somewhere.
+void TestReadability::stateToldBeyondColour()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, state);
+    QFETCH(QString, words);
+    Bound normal(kind, QStringLiteral("normal"));
+    Bound marked(kind, state);
+    QVERIFY(QTest::qWaitForWindowExposed(&marked.form));
+    const QString tip = marked.widget()->toolTip();
+    QVERIFY2(tip.startsWith(QStringLiteral("Pojemność zbiornika\n")), qPrintable(tip));
+    QVERIFY2(tip.section(QLatin1Char('\n'), 1).startsWith(words), qPrintable(tip));
+    QCOMPARE(normal.widget()->toolTip(), QStringLiteral("Pojemność zbiornika"));
+    QCOMPARE(marked.widget()->accessibleDescription(), tip);
+
+    const QImage plain = normal.widget()->grab().toImage().convertToFormat(
+        QImage::Format_Grayscale8);
+    const QImage cued = marked.widget()->grab().toImage().convertToFormat(
+        QImage::Format_Grayscale8);
+    double most = 1;
+    for (int y = 0; y < qMin(plain.height(), cued.height()); ++y)
+        for (int x = 0; x < qMin(plain.width(), cued.width()); ++x)
+            most = qMax(most, contrast(grey(plain.pixel(x, y)), grey(cued.pixel(x, y))));
+    QVERIFY2(most >= 3, qPrintable(QStringLiteral("greyscale difference %1").arg(most)));
+}
+
+void TestReadability::accessibleNameIsTheLabel_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("name");
+    for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox",
+                             "list", "table"})
+        QTest::newRow(kind) << kind << "Pojemność";
+    QTest::newRow("radiobutton") << "radiobutton" << "Pojemność: Ręcznie";
+}
+
+// A screen reader names every kind after its label; a radio button adds its own choice.
+void TestReadability::accessibleNameIsTheLabel()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, name);
+    AnyControl control = makeAnyControl(kind);
+    if (auto *radio = qobject_cast<CfgRadioButton *>(control.widget.get()))
+        radio->setText(QStringLiteral("Ręcznie"));
+    TestHost host;
+    addEditableRecord(host, kind, ref).minVersions[0] = 0;
+    QLabel label(QStringLiteral("&Pojemność:"));
+    control.setReference(&host, ref, &label, {});
+    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(control.widget.get());
+    QVERIFY(face);
+    QCOMPARE(face->text(QAccessible::Name), name);
+}
+
+// A change of state reaches assistive technology as a change of the description.
+void TestReadability::stateChangeIsAnnounced()
+{
+    static QList<QAccessible::Event> events;
+    QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::DescriptionChanged)
+            events.append(event->type());
+    });
+    QAccessible::setActive(true);
+    Bound bound(QStringLiteral("spinbox"), QStringLiteral("normal"));
+    events.clear();
+    bound.host.invalid.insert(ref);
+    bound.control.updateControl(0);
+    QAccessible::installUpdateHandler(nullptr);
+    QCOMPARE(events.size(), 1);
+    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(bound.widget());
+    QVERIFY(face->text(QAccessible::Description).contains(QStringLiteral("Nieprawidłowa")));
+}
+
+QTEST_MAIN(TestReadability)
+#include "tst_readability.moc"
