@@ -1117,4 +1117,55 @@
         <translation>Reading - data to skip</translation>
     </message>
 </context>
+<context>
+    <name>StateCue</name>
+    <message>
+        <source>Zmieniona</source>
+        <translation>Modified</translation>
+    </message>
+    <message>
+        <source>Zmieniona, zapisana wartość: %1</source>
+        <translation>Modified, stored value: %1</translation>
+    </message>
+    <message>
+        <source>Nieprawidłowa</source>
+        <translation>Invalid</translation>
+    </message>
+    <message>
+        <source>Nieprawidłowa: %1</source>
+        <translation>Invalid: %1</translation>
+    </message>
+    <message>
+        <source>poza zakresem %1–%2</source>
+        <translation>outside the range %1-%2</translation>
+    </message>
+    <message>
+        <source>nie jest wielokrotnością kroku %1</source>
+        <translation>not a multiple of the step %1</translation>
+    </message>
+    <message>
+        <source>nie pasuje do wzorca</source>
+        <translation>does not match the pattern</translation>
+    </message>
+    <message>
+        <source>za długa, najwyżej %1 znaków</source>
+        <translation>too long, at most %1 characters</translation>
+    </message>
+    <message>
+        <source>odstęp na początku lub na końcu</source>
+        <translation>a blank at the start or the end</translation>
+    </message>
+    <message>
+        <source>zaznaczone</source>
+        <translation>checked</translation>
+    </message>
+    <message>
+        <source>niezaznaczone</source>
+        <translation>unchecked</translation>
+    </message>
+    <message>
+        <source>odrzucona przez urządzenie</source>
+        <translation>refused by the device</translation>
+    </message>
+</context>
 </TS>

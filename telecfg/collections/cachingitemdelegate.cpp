@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/cachingitemdelegate_p.h"
+#include "telecfg/collections/elementstate_p.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -72,7 +73,7 @@ private:
 } // namespace
 
 CachingItemDelegate::CachingItemDelegate(QAbstractItemView *view)
-    : QStyledItemDelegate(view), pixmaps(0)
+    : StateCueDelegate(view), pixmaps(0)
 {
     auto *invalidator = new Invalidator(pixmaps, this);
     view->installEventFilter(invalidator);
@@ -86,7 +87,7 @@ void CachingItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     initStyleOption(&item, index);
     const QBrush base = viewportBackground(item.widget);
     if (base.style() == Qt::NoBrush || !isKeepable(item, painter)) {
-        QStyledItemDelegate::paint(painter, option, index);
+        StateCueDelegate::paint(painter, option, index);
         return;
     }
     Look look;
@@ -106,6 +107,7 @@ void CachingItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     look.pixelRatio = painter->device()->devicePixelRatioF();
     look.paletteKey = item.palette.cacheKey();
     look.style = item.widget->style();
+    look.cue = index.data(StateCueRole).toInt();
 
     if (const QPixmap *kept = pixmaps.object(look)) {
         painter->drawPixmap(option.rect.topLeft(), *kept);
@@ -118,7 +120,7 @@ void CachingItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
         QPainter render(pixmap);
         QStyleOptionViewItem local = option;
         local.rect = QRect(QPoint(0, 0), look.size);
-        QStyledItemDelegate::paint(&render, local, index);
+        StateCueDelegate::paint(&render, local, index);
     }
     painter->drawPixmap(option.rect.topLeft(), *pixmap);
     const QSize shown = item.widget->size() * look.pixelRatio;
@@ -134,7 +136,7 @@ bool CachingItemDelegate::Look::operator==(const Look &other) const
            elideMode == other.elideMode && direction == other.direction &&
            position == other.position && showDecorationSelected == other.showDecorationSelected &&
            size == other.size && qFuzzyCompare(pixelRatio, other.pixelRatio) &&
-           paletteKey == other.paletteKey && style == other.style;
+           paletteKey == other.paletteKey && style == other.style && cue == other.cue;
 }
 
 qtcompat::HashValue qHash(const CachingItemDelegate::Look &look, qtcompat::HashValue seed)

@@ -4,10 +4,10 @@
 
 #include "telecfg/qtcompat_p.h"
 
+#include "telecfg/collections/statecuedelegate_p.h"
 #include <QCache>
 #include <QFont>
 #include <QPixmap>
-#include <QStyledItemDelegate>
 
 class QAbstractItemView;
 
@@ -20,7 +20,7 @@ class QAbstractItemView;
 // show text alone on a plain or solid background; every other item, and any painter that
 // scales or rotates, is painted as usual. The view's style, palette, font, locale or
 // direction changing empties the store.
-class CachingItemDelegate : public QStyledItemDelegate
+class CachingItemDelegate : public StateCueDelegate
 {
     Q_OBJECT
 
@@ -52,6 +52,7 @@ public:
         qreal pixelRatio = 1;
         qint64 paletteKey = 0;
         const void *style = nullptr;
+        int cue = 0; // the element's corner cue
 
         bool operator==(const Look &other) const;
     };

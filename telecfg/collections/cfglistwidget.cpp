@@ -52,6 +52,7 @@ CfgListWidget::CfgListWidget(QWidget *parent)
     setUniformItemSizes(true);
     // Adding an item repaints every visible row; rows that look as before are copied.
     setItemDelegate(new CachingItemDelegate(this));
+    makeElementTextReadable(this);
     connect(itemDelegate(), SIGNAL(commitData(QWidget *)), this,
             SLOT(ListWidgetEditCommit(QWidget *)));
     connect(itemDelegate(), SIGNAL(closeEditor(QWidget *, QAbstractItemDelegate::EndEditHint)),

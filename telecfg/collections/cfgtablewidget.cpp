@@ -3,6 +3,7 @@
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/criticalbox_p.h"
 #include "telecfg/collections/elementstate_p.h"
+#include "telecfg/collections/statecuedelegate_p.h"
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/controls/boundcontrol.h"
 
@@ -46,6 +47,8 @@ CfgTableWidget::CfgTableWidget(QWidget *parent)
     : QTableWidget(parent), d(std::make_unique<Private>(this))
 {
     registerCollectionTypes();
+    setItemDelegate(new StateCueDelegate(this));
+    makeElementTextReadable(this);
     connect(itemDelegate(), SIGNAL(closeEditor(QWidget *, QAbstractItemDelegate::EndEditHint)),
             this, SLOT(ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEditHint)));
     connect(this, SIGNAL(itemDoubleClicked(QTableWidgetItem *)), this,

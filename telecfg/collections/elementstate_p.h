@@ -4,6 +4,7 @@
 
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/config/mainconfig.h"
+#include "telecfg/controls/statecue_p.h"
 
 #include <QBrush>
 #include <QCoreApplication>
@@ -12,6 +13,10 @@
 
 // The four states an element's item is painted in, shared by the list and the table.
 enum class ElementState { Removed, Invalid, Modified, Existing };
+
+// The item data role holding the corner cue of an invalid or modified element
+// (statecue::State as an int), which the editors' item delegate draws.
+constexpr int StateCueRole = Qt::UserRole + 0x100;
 
 // The background and tool tip of each state, built once per repaint rather than per item.
 class StateLook
@@ -36,6 +41,7 @@ public:
     {
         item->setData(Qt::BackgroundRole, brushes[int(state)]);
         item->setToolTip(toolTips[int(state)]);
+        item->setData(StateCueRole, cues[int(state)]);
     }
 
     // Brushes never change; tool tips do with the language.
@@ -43,6 +49,8 @@ public:
 
 private:
     std::array<QVariant, 4> brushes;
+    std::array<QVariant, 4> cues = {QVariant(), QVariant(int(statecue::State::Invalid)),
+                                    QVariant(int(statecue::State::Modified)), QVariant()};
     std::array<QString, 4> toolTips;
 };
 

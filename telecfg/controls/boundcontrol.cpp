@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/boundcontrol.h"
+#include "telecfg/config/parametertable.h"
 #include "telecfg/dialogs/licence_p.h"
 
 #include <QHash>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QWidget>
 #include <utility>
 
@@ -87,14 +89,85 @@ bool BoundControl::write(const QVariant &value, Then then)
     return true;
 }
 
-void BoundControl::paintState(const BackgroundSheets &sheets, bool valid) const
+void BoundControl::paintState(const BackgroundSheets &sheets, bool valid, const QString &why)
 {
-    if (!valid)
+    using statecue::State;
+    if (!valid) {
         applyStyleSheet(self, sheets[BackgroundSheets::Red]);
-    else if (iface->isModified(reference))
+        present(State::Invalid, why.isEmpty() ? invalidReason() : why, Qt::red);
+    } else if (iface->isModified(reference)) {
         applyStyleSheet(self, sheets[BackgroundSheets::Yellow]);
-    else
+        present(State::Modified, storedText(), Qt::yellow);
+    } else {
         applyStyleSheet(self, sheets[BackgroundSheets::White]);
+        present(State::Normal, QString(), Qt::white);
+    }
+}
+
+void BoundControl::paintRefused(const BackgroundSheets &sheets, const QString &why)
+{
+    applyStyleSheet(self, sheets[BackgroundSheets::Red]);
+    present(statecue::State::Invalid, why, Qt::red);
+}
+
+void BoundControl::present(statecue::State state, const QString &detail,
+                           const QColor &textBackground)
+{
+    statecue::present(self, {state, detail, textBackground}, cue);
+}
+
+namespace {
+QString numberText(const QVariant &number)
+{
+    return QLocale::system().toString(number.toDouble(), 'g', 15);
+}
+} // namespace
+
+QString BoundControl::invalidReason() const
+{
+    const QVariant current = iface->value(reference);
+    QVariant minimum = record().minimum;
+    QVariant maximum = record().maximum;
+    int maxLength = -1;
+    QString pattern;
+    if (auto *table = dynamic_cast<ParameterTable *>(iface)) {
+        const ParameterTable::Rules rules = table->rules(reference);
+        minimum = rules.minimum;
+        maximum = rules.maximum;
+        maxLength = rules.maxLength;
+        pattern = rules.pattern;
+    }
+    bool numeric = false;
+    const double number = current.toString().toDouble(&numeric);
+    if (numeric && minimum.isValid() && maximum.isValid() &&
+        (number < minimum.toDouble() || number > maximum.toDouble()))
+        return statecue::outsideRange(numberText(minimum), numberText(maximum));
+    const QString text = current.toString();
+    if (maxLength >= 0 && text.size() > maxLength)
+        return statecue::tooLong(maxLength);
+    if (!pattern.isEmpty() &&
+        !QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch())
+        return statecue::doesNotMatchPattern();
+    return QString();
+}
+
+QVariant BoundControl::storedValue() const
+{
+    if (auto *table = dynamic_cast<ParameterTable *>(iface))
+        return table->storedValue(reference);
+    return QVariant();
+}
+
+QString BoundControl::storedText() const
+{
+    const QVariant stored = storedValue();
+    if (!stored.isValid())
+        return QString();
+    const QString text = stored.toString();
+    for (const auto &option : record().options)
+        if (option.second == text)
+            return option.first;
+    return text;
 }
 
 HiddenReason hiddenReason(MainConfigIFace &iface, int ref, int hardwareId)

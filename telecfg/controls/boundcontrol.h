@@ -3,6 +3,7 @@
 #pragma once
 
 #include "telecfg/config/mainconfig.h"
+#include "telecfg/controls/statecue_p.h"
 #include "telecfg/controls/visibility.h"
 #include "telecfg/telecfg_export.h"
 
@@ -128,6 +129,7 @@ public:
         self->setToolTip(record().toolTip);
         load();
         registerIn(label, nullLabel);
+        statecue::nameAfterLabel(self, label);
         return true;
     }
 
@@ -173,8 +175,24 @@ public:
     }
 
     // Paints red unless `valid`, else yellow when the host reports the parameter modified
-    // (asked only then), else white.
-    void paintState(const BackgroundSheets &sheets, bool valid) const;
+    // (asked only then), else white; and tells the same beyond colour (present()). `why`
+    // gives the reason of an invalid value the control itself found; without one the reason
+    // is looked for in the host's rules (invalidReason()).
+    void paintState(const BackgroundSheets &sheets, bool valid, const QString &why = QString());
+    // Paints the red of an edit refused before it reached the host, with its reason.
+    void paintRefused(const BackgroundSheets &sheets, const QString &why);
+
+    // Tells the state beyond colour: the corner cue, the tool tip's state line, the accessible
+    // description, and text colours readable on `textBackground` (where the sheet paints one).
+    void present(statecue::State state, const QString &detail = QString(),
+                 const QColor &textBackground = QColor());
+    // Why the host calls the value invalid, where the library knows it: a range or length or
+    // pattern the host's table or the record holds. Empty when it cannot tell.
+    QString invalidReason() const;
+    // The stored value, where the host tells it (a ParameterTable does); invalid otherwise.
+    QVariant storedValue() const;
+    // The stored value as the user reads it: an option's text, else the value's own text.
+    QString storedText() const;
 
     // True when the bound parameter does not exist or is closed for the present device.
     bool isHiddenNow(int hardwareId);
@@ -193,6 +211,7 @@ private:
     QWidget *const self;
     const BoundKind &kind;
     int loadingDepth = 0;
+    statecue::Memo cue;
 };
 
 // Applies a style sheet unless the widget already holds exactly this one: re-applying an

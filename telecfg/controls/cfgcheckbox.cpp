@@ -3,6 +3,7 @@
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
+#include "telecfg/controls/imagecheck_p.h"
 
 namespace {
 const BoundKind boundKind = BoundKind::of<CfgCheckBox>("telecfg/controls/cfgcheckbox.h");
@@ -47,6 +48,7 @@ struct CfgCheckBox::Private
 
 CfgCheckBox::CfgCheckBox(QWidget *parent) : QCheckBox(parent), d(std::make_unique<Private>(this))
 {
+    checkImagesWhenShown(this);
     connect(this, SIGNAL(stateChanged(int)), this, SLOT(changed(int)));
     drawBitmap(true, false);
 }
@@ -68,7 +70,15 @@ void CfgCheckBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
 void CfgCheckBox::updateControl(int hardwareId)
 {
     d->bound.update(hardwareId, [this] {
-        drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
+        const bool modified = d->bound.iface->isModified(d->bound.reference);
+        drawBitmap(isEnabled(), modified);
+        if (!modified) {
+            d->bound.present(statecue::State::Normal);
+            return;
+        }
+        const QVariant stored = d->bound.storedValue();
+        d->bound.present(statecue::State::Modified,
+                         stored.isValid() ? statecue::checkedWords(stored.toBool()) : QString());
     });
 }
 

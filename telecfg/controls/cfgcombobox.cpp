@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcombobox.h"
+#include "telecfg/controls/accessiblecombobox_p.h"
 #include "telecfg/controls/boundcontrol.h"
+#include "telecfg/controls/imagecheck_p.h"
 #include "telecfg/qtcompat_p.h"
 
 #include <QAbstractItemModel>
@@ -98,6 +100,8 @@ struct CfgComboBox::Private
 
 CfgComboBox::CfgComboBox(QWidget *parent) : QComboBox(parent), d(std::make_unique<Private>(this))
 {
+    checkImagesWhenShown(this);
+    installComboBoxAccessibility();
     qtcompat::connectCurrentIndexText(this, this, SLOT(changed(const QString &)));
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -162,6 +166,13 @@ void CfgComboBox::updateColor(bool enabled)
              !d->bound.iface->matchesStored(d->bound.reference, currentData(Qt::UserRole)))
         colour = enabled ? Yellow : PaleYellow;
     applyStyleSheet(this, comboSheet(colour));
+    // The sheet sets the text colour itself.
+    if (colour == Red)
+        d->bound.present(statecue::State::Invalid, statecue::refusedByDevice());
+    else if (colour == Yellow || colour == PaleYellow)
+        d->bound.present(statecue::State::Modified, d->bound.storedText());
+    else
+        d->bound.present(statecue::State::Normal);
 }
 
 void CfgComboBox::updateSelection(int ref)

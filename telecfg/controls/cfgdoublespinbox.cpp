@@ -113,7 +113,8 @@ void CfgDoubleSpinBox::updateValue(QString val)
     float whole = 0;
     const float fraction = std::modf(float(systemDouble(val) / singleStep()), &whole);
     if (fraction != 0.0f || std::isnan(fraction)) {
-        applyStyleSheet(this, sheets()[BackgroundSheets::Red]);
+        d->bound.paintRefused(
+            sheets(), statecue::notAMultipleOf(QLocale::system().toString(singleStep(), 'g', 15)));
         return;
     }
     d->bound.write(QVariant(systemDouble(val)));

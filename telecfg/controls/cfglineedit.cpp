@@ -86,7 +86,8 @@ void CfgLineEdit::updateControl(int hardwareId)
 {
     const auto paint = [this] {
         d->bound.paintState(sheets(),
-                            d->bound.iface->isValid(d->bound.reference) && !d->bound.error);
+                            d->bound.iface->isValid(d->bound.reference) && !d->bound.error,
+                            d->bound.error ? statecue::refusedByDevice() : QString());
     };
     d->bound.update(hardwareId, paint, [this] {
         applyStyleSheet(this,
@@ -141,7 +142,8 @@ void CfgLineEdit::updateText(const QString &text)
         return;
     }
     if (d->bound.error || (!text.isEmpty() && (isBlank(text.front()) || isBlank(text.back())))) {
-        applyStyleSheet(this, sheets()[BackgroundSheets::Red]);
+        d->bound.paintRefused(sheets(), d->bound.error ? statecue::refusedByDevice()
+                                                       : statecue::blankAtEnds());
         return;
     }
     if (!d->bound.write(QVariant(text)))

@@ -3,6 +3,7 @@
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
+#include "telecfg/controls/imagecheck_p.h"
 #include "telecfg/qtcompat_p.h"
 
 namespace {
@@ -51,6 +52,7 @@ struct CfgRadioButton::Private
 CfgRadioButton::CfgRadioButton(QWidget *parent)
     : QRadioButton(parent), d(std::make_unique<Private>(this))
 {
+    checkImagesWhenShown(this);
     connect(this, SIGNAL(pressed()), this, SLOT(change()));
     drawBitmap(true, false);
 }
@@ -67,7 +69,19 @@ void CfgRadioButton::setReference(MainConfigIFace *iface, int ref, QWidget *labe
 void CfgRadioButton::updateControl(int hardwareId)
 {
     d->bound.update(hardwareId, [this] {
-        drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
+        const bool modified = d->bound.iface->isModified(d->bound.reference);
+        drawBitmap(isEnabled(), modified);
+        if (!modified) {
+            d->bound.present(statecue::State::Normal);
+            return;
+        }
+        // Stored, this choice was or was not the one taken.
+        const QVariant stored = d->bound.storedValue();
+        d->bound.present(
+            statecue::State::Modified,
+            stored.isValid()
+                ? statecue::checkedWords(stored.toUInt() == d->bound.record().minimum.toUInt())
+                : QString());
     });
 }
 

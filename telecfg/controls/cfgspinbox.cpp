@@ -42,11 +42,10 @@ void CfgSpinBox::updateControl(int hardwareId)
         const int ref = d->bound.reference;
         // The multiple rule colours, it does not refuse; negative values are taken by their
         // unsigned reading. A step of 0 leaves the rule out instead of dividing by zero.
-        const auto isMultiple = [&] {
-            const auto step = quint32(d->bound.record().step);
-            return step == 0 || iface->value(ref).toUInt() % step == 0;
-        };
-        d->bound.paintState(sheets, iface->isValid(ref) && isMultiple());
+        const auto step = quint32(d->bound.record().step);
+        const bool multiple = step == 0 || iface->value(ref).toUInt() % step == 0;
+        d->bound.paintState(sheets, iface->isValid(ref) && multiple,
+                            multiple ? QString() : statecue::notAMultipleOf(QString::number(step)));
     });
 }
 

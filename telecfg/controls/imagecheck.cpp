@@ -8,21 +8,24 @@
 #include <QStringList>
 #include <QWidget>
 #include <atomic>
+#include <utility>
 
 namespace {
 std::atomic<bool> checked{false};
 
+// Looks once per process, at the first control shown whose sheet names images.
 void check(const QWidget *control)
 {
-    if (checked.exchange(true))
-        return;
     static const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
+    QStringList named;
+    for (auto it = url.globalMatch(control->styleSheet()); it.hasNext();)
+        named.append(it.next().captured(1));
+    if (named.isEmpty() || checked.exchange(true))
+        return;
     QStringList missing;
-    for (auto it = url.globalMatch(control->styleSheet()); it.hasNext();) {
-        const QString path = it.next().captured(1);
+    for (const QString &path : std::as_const(named))
         if (!missing.contains(path) && !QFile::exists(path))
             missing.append(path);
-    }
     if (!missing.isEmpty())
         qWarning("telecfg: the images the controls' style sheets name are missing (%s), so "
                  "check boxes, radio buttons and combo box arrows are drawn without them; link "
@@ -45,7 +48,9 @@ protected:
     {
         if (event->type() == QEvent::Show) {
             check(static_cast<QWidget *>(watched));
-            watched->removeEventFilter(this);
+            // A combo box shown before its first refresh has no sheet yet: it stays watched.
+            if (checked.load(std::memory_order_relaxed))
+                watched->removeEventFilter(this);
         }
         return false;
     }

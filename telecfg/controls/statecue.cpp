@@ -23,11 +23,6 @@ constexpr char cueName[] = "telecfg_state_cue";
 constexpr int modifiedSide = 7;
 constexpr int invalidSide = 11;
 
-QString translate(const char *text)
-{
-    return QCoreApplication::translate("StateCue", text);
-}
-
 // A corner of a bound control, drawn over it and transparent to the mouse.
 class CueOverlay : public QWidget
 {
@@ -187,6 +182,7 @@ void paintCue(QPainter *painter, const QRect &rect, State state)
     fold.lineTo(origin + QPointF(0, side));
     fold.closeSubpath();
     painter->save();
+    painter->setClipRect(rect, Qt::IntersectClip); // the light edge never reaches a neighbour
     painter->setRenderHint(QPainter::Antialiasing);
     // Dark with a light edge: it stands out on a light background and on a dark one.
     painter->setPen(QPen(Qt::white, 1));
@@ -209,13 +205,13 @@ QString stateLine(const Presentation &presentation)
         break;
     case State::Modified:
         return presentation.detail.isEmpty()
-                   ? translate(QT_TRANSLATE_NOOP("StateCue", "Zmieniona"))
-                   : translate(QT_TRANSLATE_NOOP("StateCue", "Zmieniona, zapisana wartość: %1"))
+                   ? QCoreApplication::translate("StateCue", "Zmieniona")
+                   : QCoreApplication::translate("StateCue", "Zmieniona, zapisana wartość: %1")
                          .arg(presentation.detail);
     case State::Invalid:
         return presentation.detail.isEmpty()
-                   ? translate(QT_TRANSLATE_NOOP("StateCue", "Nieprawidłowa"))
-                   : translate(QT_TRANSLATE_NOOP("StateCue", "Nieprawidłowa: %1"))
+                   ? QCoreApplication::translate("StateCue", "Nieprawidłowa")
+                   : QCoreApplication::translate("StateCue", "Nieprawidłowa: %1")
                          .arg(presentation.detail);
     }
     return QString();
@@ -262,32 +258,38 @@ void nameAfterLabel(QWidget *control, QWidget *label)
 
 QString outsideRange(const QString &minimum, const QString &maximum)
 {
-    return translate(QT_TRANSLATE_NOOP("StateCue", "poza zakresem %1–%2")).arg(minimum, maximum);
+    return QCoreApplication::translate("StateCue", "poza zakresem %1–%2").arg(minimum, maximum);
 }
 
 QString notAMultipleOf(const QString &step)
 {
-    return translate(QT_TRANSLATE_NOOP("StateCue", "nie jest wielokrotnością kroku %1")).arg(step);
+    return QCoreApplication::translate("StateCue", "nie jest wielokrotnością kroku %1").arg(step);
 }
 
 QString doesNotMatchPattern()
 {
-    return translate(QT_TRANSLATE_NOOP("StateCue", "nie pasuje do wzorca"));
+    return QCoreApplication::translate("StateCue", "nie pasuje do wzorca");
 }
 
 QString tooLong(int maximum)
 {
-    return translate(QT_TRANSLATE_NOOP("StateCue", "za długa, najwyżej %1 znaków")).arg(maximum);
+    return QCoreApplication::translate("StateCue", "za długa, najwyżej %1 znaków").arg(maximum);
 }
 
 QString blankAtEnds()
 {
-    return translate(QT_TRANSLATE_NOOP("StateCue", "odstęp na początku lub na końcu"));
+    return QCoreApplication::translate("StateCue", "odstęp na początku lub na końcu");
+}
+
+QString checkedWords(bool checked)
+{
+    return checked ? QCoreApplication::translate("StateCue", "zaznaczone")
+                   : QCoreApplication::translate("StateCue", "niezaznaczone");
 }
 
 QString refusedByDevice()
 {
-    return translate(QT_TRANSLATE_NOOP("StateCue", "odrzucona przez urządzenie"));
+    return QCoreApplication::translate("StateCue", "odrzucona przez urządzenie");
 }
 
 } // namespace statecue

@@ -69,5 +69,7 @@ QString doesNotMatchPattern();
 QString tooLong(int maximum);
 QString blankAtEnds();
 QString refusedByDevice();
+// A check box's or radio button's stored state as the user reads it.
+QString checkedWords(bool checked);
 
 } // namespace statecue

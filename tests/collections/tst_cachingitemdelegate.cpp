@@ -137,7 +137,7 @@ void TestCachingItemDelegate::looksAsStock()
     QCoreApplication::processEvents();
 
     const QImage cached = shot(list);
-    QStyledItemDelegate stock;
+    StateCueDelegate stock; // the stock painting with the element's corner cue
     list.setItemDelegate(&stock);
     const QImage drawn = shot(list);
     list.setItemDelegate(caching);

@@ -111,8 +111,6 @@ void TestDefaultImages::sharpAtScaleTwo_data()
     QTest::addColumn<QString>("image");
     QTest::newRow("check box") << "checkbox"
                                << "checkbox_grey_checked";
-    QTest::newRow("modified check box") << "checkbox"
-                                        << "checkbox_yellow_checked";
     QTest::newRow("radio button") << "radio"
                                   << "radiobutton_selected_black";
     QTest::newRow("combo box arrow") << "combo"
