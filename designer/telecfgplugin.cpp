@@ -2,14 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfgplugin.h"
 
-#include "telecfg/collections/cfglistwidget.h"
-#include "telecfg/collections/cfgtablewidget.h"
-#include "telecfg/controls/cfgcheckbox.h"
-#include "telecfg/controls/cfgcombobox.h"
-#include "telecfg/controls/cfgdoublespinbox.h"
-#include "telecfg/controls/cfglineedit.h"
-#include "telecfg/controls/cfgradiobutton.h"
-#include "telecfg/controls/cfgspinbox.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/dialogs/statuslabel.h"
 #include "telecfg/images/defaultimages.h"
 
@@ -23,7 +16,7 @@ TelecfgWidget::TelecfgWidget(const Description &widget, QObject *parent)
 
 QString TelecfgWidget::includeFile() const
 {
-    return QStringLiteral("telecfg/%1/%2").arg(description.folder, description.header);
+    return description.header;
 }
 
 QIcon TelecfgWidget::icon() const
@@ -58,85 +51,93 @@ QString TelecfgWidget::domXml() const
 }
 
 namespace {
-template <class Widget> std::function<QWidget *(QWidget *)> factory()
-{
-    return [](QWidget *parent) -> QWidget * { return new Widget(parent); };
-}
-
 QString textProperty(const char *text)
 {
     return QStringLiteral("<property name=\"text\"><string>%1</string></property>")
         .arg(QString::fromUtf8(text));
 }
 
-const QString binding = QStringLiteral(
-    " Name it cfg_<parameter number> (cfg_101) and FormBinder::bind binds it to that parameter of "
-    "the host's table; the QLabel whose buddy it is hides with it. Unbound it is a plain %1.");
+// How each bound control shows in the widget box; what it is and where it is declared
+// come from the library's kinds of bound control.
+struct Look
+{
+    const char *name;
+    QString glyph;
+    QString toolTip;
+    QString whatsThis;
+    QString xml;
+};
 } // namespace
 
 TelecfgDesignerPlugin::TelecfgDesignerPlugin(QObject *parent) : QObject(parent)
 {
     // The check box and radio button style sheets draw their indicators from these images.
     initDefaultImages();
-    const QList<TelecfgWidget::Description> descriptions = {
-        {QStringLiteral("CfgCheckBox"), QStringLiteral("cfgcheckbox.h"), QStringLiteral("controls"),
-         QStringLiteral("\u2713"), QStringLiteral("Check box bound to a flag parameter"),
+    const Look looks[] = {
+        {"CfgCheckBox", QStringLiteral("\u2713"),
+         QStringLiteral("Check box bound to a flag parameter"),
          QStringLiteral("A check box showing and writing one flag parameter (an int 0/1 for "
-                        "IntFlag, else a bool), yellow while modified.") +
-             binding.arg(QLatin1String("QCheckBox")),
-         textProperty("Parametr"), factory<CfgCheckBox>()},
-        {QStringLiteral("CfgComboBox"), QStringLiteral("cfgcombobox.h"), QStringLiteral("controls"),
-         QStringLiteral("\u25BE"), QStringLiteral("Combo box bound to a parameter with options"),
+                        "IntFlag, else a bool), yellow while modified."),
+         textProperty("Parametr")},
+        {"CfgComboBox", QStringLiteral("\u25BE"),
+         QStringLiteral("Combo box bound to a parameter with options"),
          QStringLiteral("A combo box filled from the parameter's options; the choice writes the "
-                        "option's value.") +
-             binding.arg(QLatin1String("QComboBox")),
-         QString(), factory<CfgComboBox>()},
-        {QStringLiteral("CfgLineEdit"), QStringLiteral("cfglineedit.h"), QStringLiteral("controls"),
-         QStringLiteral("ab"), QStringLiteral("Line edit bound to a text or number parameter"),
+                        "option's value."),
+         QString()},
+        {"CfgLineEdit", QStringLiteral("ab"),
+         QStringLiteral("Line edit bound to a text or number parameter"),
          QStringLiteral("A line edit whose validator follows the parameter's type; red while "
-                        "invalid, yellow while modified.") +
-             binding.arg(QLatin1String("QLineEdit")),
-         QString(), factory<CfgLineEdit>()},
-        {QStringLiteral("CfgSpinBox"), QStringLiteral("cfgspinbox.h"), QStringLiteral("controls"),
-         QStringLiteral("12"), QStringLiteral("Spin box bound to a whole-number parameter"),
-         QStringLiteral("A spin box taking bounds and step from the parameter's record.") +
-             binding.arg(QLatin1String("QSpinBox")),
-         QString(), factory<CfgSpinBox>()},
-        {QStringLiteral("CfgDoubleSpinBox"), QStringLiteral("cfgdoublespinbox.h"),
-         QStringLiteral("controls"), QStringLiteral("1,5"),
+                        "invalid, yellow while modified."),
+         QString()},
+        {"CfgSpinBox", QStringLiteral("12"),
+         QStringLiteral("Spin box bound to a whole-number parameter"),
+         QStringLiteral("A spin box taking bounds and step from the parameter's record."),
+         QString()},
+        {"CfgDoubleSpinBox", QStringLiteral("1,5"),
          QStringLiteral("Spin box bound to a decimal parameter"),
          QStringLiteral("A decimal spin box taking bounds and step from the parameter's record; "
-                        "the number of decimals is the form's to set.") +
-             binding.arg(QLatin1String("QDoubleSpinBox")),
-         QString(), factory<CfgDoubleSpinBox>()},
-        {QStringLiteral("CfgRadioButton"), QStringLiteral("cfgradiobutton.h"),
-         QStringLiteral("controls"), QStringLiteral("\u25C9"),
+                        "the number of decimals is the form's to set."),
+         QString()},
+        {"CfgRadioButton", QStringLiteral("\u25C9"),
          QStringLiteral("Radio button for one choice of a parameter"),
          QStringLiteral("A radio button standing for one value of a parameter (the record's "
-                        "minimum); each choice is a parameter number of its own.") +
-             binding.arg(QLatin1String("QRadioButton")),
-         textProperty("Wybór"), factory<CfgRadioButton>()},
-        {QStringLiteral("CfgListWidget"), QStringLiteral("cfglistwidget.h"),
-         QStringLiteral("collections"), QStringLiteral("\u2261"),
+                        "minimum); each choice is a parameter number of its own."),
+         textProperty("Wybór")},
+        {"CfgListWidget", QStringLiteral("\u2261"),
          QStringLiteral("List editor bound to a collection parameter"),
          QStringLiteral("A list of a collection parameter's elements, each painted by its state; "
                         "the host's buttons call addValue and remove. Widgets named "
-                        "cfg_<number>_<anything> hide with it.") +
-             binding.arg(QLatin1String("QListWidget")),
-         QString(), factory<CfgListWidget>()},
-        {QStringLiteral("CfgTableWidget"), QStringLiteral("cfgtablewidget.h"),
-         QStringLiteral("collections"), QStringLiteral("\u25A6"),
+                        "cfg_<number>_<anything> hide with it."),
+         QString()},
+        {"CfgTableWidget", QStringLiteral("\u25A6"),
          QStringLiteral("Table editor bound to a table parameter"),
          QStringLiteral("A table of a table parameter's rows (one column vector per column), "
-                        "each row painted by its state.") +
-             binding.arg(QLatin1String("QTableWidget")),
-         QString(), factory<CfgTableWidget>()},
-        {QStringLiteral("StatusLabel"), QStringLiteral("statuslabel.h"), QStringLiteral("dialogs"),
+                        "each row painted by its state."),
+         QString()},
+    };
+    const QString binding = QStringLiteral(
+        " Name it cfg_<parameter number> (cfg_101) and FormBinder::bind binds it to that parameter "
+        "of the host's table; the QLabel whose buddy it is hides with it. Unbound it is a plain "
+        "%1.");
+    const QList<const BoundKind *> kinds = BoundKind::all();
+    for (const Look &look : looks) {
+        for (const BoundKind *kind : kinds) {
+            const QMetaObject *meta = kind->metaObject;
+            if (qstrcmp(meta->className(), look.name) != 0)
+                continue;
+            const QString base = QLatin1String(meta->superClass()->className());
+            widgets.append(new TelecfgWidget(
+                {QLatin1String(look.name), QLatin1String(kind->header), look.glyph, look.toolTip,
+                 look.whatsThis + binding.arg(base), look.xml, kind->create},
+                this));
+        }
+    }
+    widgets.append(new TelecfgWidget(
+        {QStringLiteral("StatusLabel"), QStringLiteral("telecfg/dialogs/statuslabel.h"),
          QStringLiteral("\u25CF"), QStringLiteral("Label for a live device value"),
          QStringLiteral("A label showing a live value in a state colour, highlighted for a while "
                         "when the value changes (setValue). Not bound to a parameter."),
-         textProperty("Status"), factory<StatusLabel>()},
-    };
-    for (const TelecfgWidget::Description &description : descriptions)
-        widgets.append(new TelecfgWidget(description, this));
+         textProperty("Status"),
+         [](QWidget *parent) -> QWidget * { return new StatusLabel(parent); }},
+        this));
 }

@@ -18,8 +18,7 @@ public:
     struct Description
     {
         QString name;   // the class
-        QString header; // "cfgspinbox.h" below telecfg/<folder>/
-        QString folder; // "controls", "collections", "dialogs"
+        QString header; // the include path, "telecfg/controls/cfgspinbox.h"
         QString glyph;  // drawn on the icon
         QString toolTip;
         QString whatsThis;

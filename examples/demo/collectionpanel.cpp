@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 CollectionPanel::CollectionPanel(int parameterRef, const ParameterTable::Presentation &parameter,
                                  MainConfigIFace *host, QWidget *parent)
@@ -96,11 +97,11 @@ QVariant CollectionPanel::newElement()
     if (names)
         return names->currentText().isEmpty() ? QVariant() : QVariant(names->currentText());
     QStringList texts;
-    for (QLineEdit *input : qAsConst(inputs))
+    for (QLineEdit *input : std::as_const(inputs))
         texts.append(input->text().trimmed());
     if (texts.value(0).isEmpty())
         return QVariant();
-    for (QLineEdit *input : qAsConst(inputs))
+    for (QLineEdit *input : std::as_const(inputs))
         input->clear();
     return tableEditor ? QVariant(texts) : QVariant(texts.first());
 }

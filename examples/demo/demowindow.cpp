@@ -22,6 +22,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
+#include <utility>
 
 DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     : QMainWindow(parent), table(demoTable), tabs(new QTabWidget(this))
@@ -33,7 +34,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
 
     bar->addWidget(new QLabel(tr("Wersja konfiguracji:"), bar));
     versionBox = new QComboBox(bar);
-    for (int version : qAsConst(table->versions))
+    for (int version : std::as_const(table->versions))
         versionBox->addItem(QString::number(version), version);
     versionBox->setCurrentIndex(versionBox->findData(int(table->version())));
     bar->addWidget(versionBox);
@@ -41,7 +42,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     bar->addSeparator();
     bar->addWidget(new QLabel(tr("Sprzęt:"), bar));
     hardwareBox = new QComboBox(bar);
-    for (const ParameterTable::Hardware &hardware : qAsConst(table->hardware))
+    for (const ParameterTable::Hardware &hardware : std::as_const(table->hardware))
         hardwareBox->addItem(hardware.name, hardware.id);
     bar->addWidget(hardwareBox);
 
@@ -88,7 +89,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
 void DemoWindow::buildPages()
 {
     QMap<QString, QFormLayout *> forms;
-    for (const QString &page : qAsConst(table->pages)) {
+    for (const QString &page : std::as_const(table->pages)) {
         auto *scroll = new QScrollArea(tabs);
         scroll->setWidgetResizable(true);
         tabs->addTab(scroll, page);

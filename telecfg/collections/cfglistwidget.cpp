@@ -7,12 +7,16 @@
 #include "telecfg/collections/elementstate_p.h"
 #include "telecfg/collections/listwatch_p.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
 
 #include <QLineEdit>
 #include <optional>
 
 namespace {
+const BoundKind boundKind = BoundKind::of<CfgListWidget>("telecfg/collections/cfglistwidget.h");
+const BoundKindRegistration registration(boundKind);
+
 QListWidgetItem *newItem(const QString &text)
 {
     auto *item = new QListWidgetItem(text);
@@ -28,7 +32,7 @@ QVariant placeData(int place, bool live)
 
 struct CfgListWidget::Private
 {
-    explicit Private(QListWidget *list) : watch(list) {}
+    explicit Private(CfgListWidget *list) : bound(list, boundKind), watch(list) {}
 
     BoundControl bound;
     QString editText;
@@ -64,76 +68,64 @@ CfgListWidget::~CfgListWidget() = default;
 void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                  QList<QWidget *> relatedWidgets)
 {
-    clear();
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return; // no table: an unbound list shows nothing
-    setToolTip(d->bound.record().toolTip);
-    const MainConfigObject &object = d->bound.record();
-    if (const ElementKind *kind = elementKind(object.type)) {
-        const auto texts = kind->storedTexts(context(ref), object.value);
-        for (const auto &placeText : texts) {
-            QListWidgetItem *item = newItem(placeText.second);
-            item->setData(Qt::UserRole, placeData(placeText.first, true));
-            insertItem(count(), item);
+    clear(); // a list bound to no table shows nothing
+    const auto load = [&] {
+        const MainConfigObject &object = d->bound.record();
+        if (const ElementKind *element = elementKind(object.type)) {
+            const auto texts = element->storedTexts(context(ref), object.value);
+            for (const auto &placeText : texts) {
+                QListWidgetItem *item = newItem(placeText.second);
+                item->setData(Qt::UserRole, placeData(placeText.first, true));
+                insertItem(count(), item);
+            }
         }
-    }
-    MainConfigObject &record = d->bound.record();
-    record.control = this;
-    if (label)
-        record.label = label;
+    };
+    d->bound.bind(iface, ref, label, relatedWidgets, load, BoundControl::NullLabel::Keep);
 }
 
 void CfgListWidget::updateControl(int hardwareId)
 {
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    const ElementPainter painter(d->bound.iface, d->bound.reference);
-    // Painting an item again in the same state changes nothing; only the items the model
-    // reported changed need it, as long as the host's lists and the texts stay as they were.
-    const ListWatch::Dirty dirty = d->watch.takeDirty();
-    const bool everything = dirty.everything || !d->lastPainter || !(*d->lastPainter == painter);
-    d->watch.painting = true;
-    if (everything) {
-        for (int row = 0; row < count(); ++row)
-            painter.paint(item(row));
-    } else {
-        for (int row : dirty.rows)
-            if (QListWidgetItem *changed = item(row))
-                painter.paint(changed);
-    }
-    d->watch.painting = false;
-    d->lastPainter = painter;
+    d->bound.update(hardwareId, [this] {
+        const ElementPainter painter(d->bound.iface, d->bound.reference);
+        // Painting an item again in the same state changes nothing; only the items the model
+        // reported changed need it, as long as the host's lists and the texts stay as they were.
+        const ListWatch::Dirty dirty = d->watch.takeDirty();
+        const bool everything =
+            dirty.everything || !d->lastPainter || !(*d->lastPainter == painter);
+        d->watch.painting = true;
+        if (everything) {
+            for (int row = 0; row < count(); ++row)
+                painter.paint(item(row));
+        } else {
+            for (int row : dirty.rows)
+                if (QListWidgetItem *changed = item(row))
+                    painter.paint(changed);
+        }
+        d->watch.painting = false;
+        d->lastPainter = painter;
+    });
 }
 
-void CfgListWidget::inputMode(int mode)
+void CfgListWidget::updateEnableState(bool state)
 {
-    d->inputModeValue = mode;
+    d->bound.updateEnableState(state);
 }
 
-ElementContext CfgListWidget::context(int ref)
+void CfgListWidget::setEnabled(bool bEnable)
 {
-    ElementContext context;
-    context.iface = d->bound.iface;
-    context.valueNames = d->bound.iface->object(ref).valueNames;
-    context.convertData = [this](const QByteArray &data, int mode) {
-        return convertData(data, mode);
-    };
-    return context;
+    d->bound.setEnabled(bEnable);
 }
 
-QByteArray CfgListWidget::convertData(const QByteArray &data, int mode)
+void CfgListWidget::setError(bool error)
 {
-    return convertElementBytes(data, mode, d->inputModeValue);
+    d->bound.error = error;
 }
 
-bool CfgListWidget::isItemExists(QVariant value, int &index)
+bool CfgListWidget::isError()
 {
-    const QString text = value.toString();
-    index = -1;
-    if (!d->watch.mayShow(text))
-        return false; // what findItems would tell, without going through every item
-    return findPresentElement(findItems(text, Qt::MatchExactly), text, d->editText, -1, index);
+    return d->bound.error;
 }
+
 int CfgListWidget::addValue(QVariant value, int ref)
 {
     if (!d->bound.iface)
@@ -151,6 +143,134 @@ int CfgListWidget::addValue(QVariant value, int ref)
     }
     ListWidgetEditEnd(nullptr, QAbstractItemDelegate::NoHint);
     return 0;
+}
+
+void CfgListWidget::setValue(int index, QVariant value)
+{
+    if (!d->bound.iface)
+        return;
+    const MainConfigObject &object = d->bound.record();
+    const ElementKind *element = elementKind(object.type);
+    if (!element)
+        return;
+    QVariant vector = object.value;
+    if (element->storeVariant(vector, index, value))
+        d->bound.write(vector, BoundControl::Then::Stop);
+}
+
+bool CfgListWidget::remove(int ref)
+{
+    return removeInternal(selectedItems(), ref);
+}
+
+bool CfgListWidget::removeAll(int ref)
+{
+    QList<QListWidgetItem *> items;
+    for (int row = 0; row < count(); ++row)
+        items.append(item(row));
+    return removeInternal(items, ref);
+}
+
+bool CfgListWidget::isItemExists(QVariant value, int &index)
+{
+    const QString text = value.toString();
+    index = -1;
+    if (!d->watch.mayShow(text))
+        return false; // what findItems would tell, without going through every item
+    return findPresentElement(findItems(text, Qt::MatchExactly), text, d->editText, -1, index);
+}
+
+void CfgListWidget::inputMode(int mode)
+{
+    d->inputModeValue = mode;
+}
+
+void CfgListWidget::ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::EndEditHint)
+{
+    if (currentItem() && editor && d->bound.iface) {
+        const bool textElement = ParameterTraits::of(d->bound.record().type).textElement();
+        const QString text = currentItem()->text();
+        const QVariant value = textElement ? QVariant(text) : QVariant(text.toUInt(nullptr, 10));
+        const QPointer<CfgListWidget> alive(this);
+        addValue(value, d->bound.reference);
+        if (!alive)
+            return; // the host deleted the list while its message was open
+    }
+    updateControl(0);
+}
+
+void CfgListWidget::doubleClicked(QListWidgetItem *)
+{
+    d->editText = currentItem() ? currentItem()->text() : QString();
+}
+
+void CfgListWidget::ListWidgetEditCommit(QWidget *editor)
+{
+    auto *lineEdit = qobject_cast<QLineEdit *>(editor);
+    if (!lineEdit)
+        return;
+    int index = -1;
+    // A present element finds itself here unless the text is back at editText: an edit
+    // onto a present text goes back, silently.
+    if (isItemExists(QVariant(lineEdit->text()), index) && currentItem())
+        currentItem()->setText(d->editText);
+}
+
+void CfgListWidget::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
+}
+
+bool CfgListWidget::removeInternal(const QList<QListWidgetItem *> &items, int ref)
+{
+    if (items.isEmpty())
+        return true;
+    if (!d->bound.iface)
+        return false;
+    QVariant vector = d->bound.iface->value(ref);
+    for (QListWidgetItem *item : items) {
+        const int place = int(item->data(Qt::UserRole).toUInt() & ~liveFlag);
+        const int type = d->bound.iface->object(ref).type;
+        const ElementKind &kind = removalKind(type);
+        const QVariant element = kind.elementAt(vector, place);
+        bool kept = false;
+        if (element.isValid() && d->bound.iface->isStoredItem(ref, element)) {
+            kept = true;
+            item->setData(Qt::UserRole, placeData(place, false));
+            paintState(item, ElementState::Removed);
+            kind.zeroPlace(vector, place);
+            d->bound.iface->object(ref).value = vector;
+        }
+        // An item removed before holds its bare place and stays.
+        if (!kept && item->data(Qt::UserRole).toInt() != place)
+            delete takeItem(row(item));
+        if (const ElementKind *own = elementKind(type))
+            setValue(place, own->cleared(vector));
+        // Go on from what the host now holds, so no later item writes back a cleared one.
+        vector = d->bound.iface->value(ref);
+    }
+    int live = 0;
+    for (int row = 0; row < count(); ++row)
+        if (item(row)->data(Qt::UserRole).toUInt() & liveFlag)
+            ++live;
+    updateControl(0);
+    return quint32(live) < quint32(d->bound.iface->object(ref).capacity);
+}
+
+QByteArray CfgListWidget::convertData(const QByteArray &data, int mode)
+{
+    return convertElementBytes(data, mode, d->inputModeValue);
+}
+
+ElementContext CfgListWidget::context(int ref)
+{
+    ElementContext context;
+    context.iface = d->bound.iface;
+    context.valueNames = d->bound.iface->object(ref).valueNames;
+    context.convertData = [this](const QByteArray &data, int mode) {
+        return convertData(data, mode);
+    };
+    return context;
 }
 
 void CfgListWidget::addNew(const QVariant &value, int ref)
@@ -205,99 +325,3 @@ void CfgListWidget::restore(const QVariant &value, int ref, int index)
         delete takeItem(row(items.at(i)));
     updateControl(0);
 }
-
-void CfgListWidget::setValue(int index, QVariant value)
-{
-    if (!d->bound.iface)
-        return;
-    const MainConfigObject &object = d->bound.record();
-    const ElementKind *kind = elementKind(object.type);
-    if (!kind)
-        return;
-    QVariant vector = object.value;
-    if (kind->storeVariant(vector, index, value))
-        d->bound.iface->setValue(d->bound.reference, vector);
-}
-
-bool CfgListWidget::remove(int ref)
-{
-    return removeInternal(selectedItems(), ref);
-}
-
-bool CfgListWidget::removeAll(int ref)
-{
-    QList<QListWidgetItem *> items;
-    for (int row = 0; row < count(); ++row)
-        items.append(item(row));
-    return removeInternal(items, ref);
-}
-
-bool CfgListWidget::removeInternal(const QList<QListWidgetItem *> &items, int ref)
-{
-    if (items.isEmpty())
-        return true;
-    if (!d->bound.iface)
-        return false;
-    QVariant vector = d->bound.iface->value(ref);
-    for (QListWidgetItem *item : items) {
-        const int place = int(item->data(Qt::UserRole).toUInt() & ~liveFlag);
-        const int type = d->bound.iface->object(ref).type;
-        const ElementKind &kind = removalKind(type);
-        const QVariant element = kind.elementAt(vector, place);
-        bool kept = false;
-        if (element.isValid() && d->bound.iface->isStoredItem(ref, element)) {
-            kept = true;
-            item->setData(Qt::UserRole, placeData(place, false));
-            paintState(item, ElementState::Removed);
-            kind.zeroPlace(vector, place);
-            d->bound.iface->object(ref).value = vector;
-        }
-        // An item removed before holds its bare place and stays.
-        if (!kept && item->data(Qt::UserRole).toInt() != place)
-            delete takeItem(row(item));
-        if (const ElementKind *own = elementKind(type))
-            setValue(place, own->cleared(vector));
-        // Go on from what the host now holds, so no later item writes back a cleared one.
-        vector = d->bound.iface->value(ref);
-    }
-    int live = 0;
-    for (int row = 0; row < count(); ++row)
-        if (item(row)->data(Qt::UserRole).toUInt() & liveFlag)
-            ++live;
-    updateControl(0);
-    return quint32(live) < quint32(d->bound.iface->object(ref).capacity);
-}
-
-void CfgListWidget::doubleClicked(QListWidgetItem *)
-{
-    d->editText = currentItem() ? currentItem()->text() : QString();
-}
-
-void CfgListWidget::ListWidgetEditCommit(QWidget *editor)
-{
-    auto *lineEdit = qobject_cast<QLineEdit *>(editor);
-    if (!lineEdit)
-        return;
-    int index = -1;
-    // A present element finds itself here unless the text is back at editText: an edit
-    // onto a present text goes back, silently.
-    if (isItemExists(QVariant(lineEdit->text()), index) && currentItem())
-        currentItem()->setText(d->editText);
-}
-
-void CfgListWidget::ListWidgetEditEnd(QWidget *editor, QAbstractItemDelegate::EndEditHint)
-{
-    if (currentItem() && editor && d->bound.iface) {
-        const int type = d->bound.record().type;
-        const QString text = currentItem()->text();
-        const QVariant value =
-            type == 13 || type == 20 ? QVariant(text) : QVariant(text.toUInt(nullptr, 10));
-        const QPointer<CfgListWidget> alive(this);
-        addValue(value, d->bound.reference);
-        if (!alive)
-            return; // the host deleted the list while its message was open
-    }
-    updateControl(0);
-}
-
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgListWidget)

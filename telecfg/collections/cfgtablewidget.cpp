@@ -7,6 +7,9 @@
 #include "telecfg/controls/boundcontrol.h"
 
 namespace {
+const BoundKind boundKind = BoundKind::of<CfgTableWidget>("telecfg/collections/cfgtablewidget.h");
+const BoundKindRegistration registration(boundKind);
+
 // Entry `place` of column `column`, or null where the value has no such entry.
 QByteArray *entry(ColumnVectors &columns, int column, int place)
 {
@@ -33,13 +36,14 @@ QTableWidgetItem *newCell(const QString &text, quint32 data)
 
 struct CfgTableWidget::Private
 {
+    explicit Private(CfgTableWidget *table) : bound(table, boundKind) {}
     BoundControl bound;
     QString editText;
     int inputModeValue = 0;
 };
 
 CfgTableWidget::CfgTableWidget(QWidget *parent)
-    : QTableWidget(parent), d(std::make_unique<Private>())
+    : QTableWidget(parent), d(std::make_unique<Private>(this))
 {
     registerCollectionTypes();
     connect(itemDelegate(), SIGNAL(closeEditor(QWidget *, QAbstractItemDelegate::EndEditHint)),
@@ -56,121 +60,75 @@ void CfgTableWidget::setReference(MainConfigIFace *iface, int ref, QWidget *labe
     clear();
     // A binding shows exactly the new value, also when it has no rows at all.
     setRowCount(0);
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return; // no table: an unbound editor shows nothing
-    const MainConfigObject object = d->bound.record();
-    setToolTip(object.toolTip);
-    const int columns = qvariant_cast<QList<uint>>(object.columnListB).size();
-    setColumnCount(columns);
-    for (int column = 0; column < columns; ++column) {
-        const QString title = column < object.columnTitles.size()
-                                  ? object.columnTitles.at(column)
-                                  : tr("Kolumna %1").arg(column + 1, 0, 10, QLatin1Char(' '));
-        setHorizontalHeaderItem(column, new QTableWidgetItem(title));
-    }
-    const auto values = qvariant_cast<ColumnVectors>(object.value);
-    const int filled = qvariant_cast<QList<uint>>(object.columnListA).size();
-    const auto capacity = quint32(object.capacity);
-    int rows = 0;
-    for (int column = 0; column < filled && column < values.size(); ++column) {
-        const QVector<QByteArray> &places = values.at(column);
-        for (int place = 0; quint32(place) < capacity && place < places.size(); ++place) {
-            const QString text = textOf(places.at(place));
-            if (column == 0) {
-                if (places.at(place).isEmpty() || text.isEmpty())
-                    continue;
-                setRowCount(++rows);
-            } else if (place >= rows) {
-                continue;
-            }
-            // The place is the row as well; a free place before a used one leaves the last
-            // used rows past the row count, unshown, as hosts have always seen it.
-            placeCell(place, column, newCell(text, quint32(place) | liveFlag));
+    // A table bound to no parameter table shows nothing.
+    const auto load = [&] {
+        const MainConfigObject object = d->bound.record();
+        const int columns = qvariant_cast<QList<uint>>(object.columnListB).size();
+        setColumnCount(columns);
+        for (int column = 0; column < columns; ++column) {
+            const QString title = column < object.columnTitles.size()
+                                      ? object.columnTitles.at(column)
+                                      : tr("Kolumna %1").arg(column + 1, 0, 10, QLatin1Char(' '));
+            setHorizontalHeaderItem(column, new QTableWidgetItem(title));
         }
-    }
-    MainConfigObject &record = d->bound.record();
-    record.control = this;
-    if (label)
-        record.label = label;
-}
-
-bool CfgTableWidget::placeCell(int row, int column, QTableWidgetItem *cell)
-{
-    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) {
-        delete cell;
-        return false;
-    }
-    setItem(row, column, cell);
-    return true;
-}
-
-void CfgTableWidget::storeColumns(int ref, const ColumnVectors &columns)
-{
-    // A value that held no columns (or another container) stays as it was.
-    if (columns.isEmpty())
-        return;
-    const QVariant value = QVariant::fromValue(columns);
-    d->bound.iface->object(ref).value = value;
-    setValue(value);
+        const auto values = qvariant_cast<ColumnVectors>(object.value);
+        const int filled = qvariant_cast<QList<uint>>(object.columnListA).size();
+        const auto capacity = quint32(object.capacity);
+        int rows = 0;
+        for (int column = 0; column < filled && column < values.size(); ++column) {
+            const QVector<QByteArray> &places = values.at(column);
+            for (int place = 0; quint32(place) < capacity && place < places.size(); ++place) {
+                const QString text = textOf(places.at(place));
+                if (column == 0) {
+                    if (places.at(place).isEmpty() || text.isEmpty())
+                        continue;
+                    setRowCount(++rows);
+                } else if (place >= rows) {
+                    continue;
+                }
+                // The place is the row as well; a free place before a used one leaves the
+                // last used rows past the row count, unshown, as hosts have always seen it.
+                placeCell(place, column, newCell(text, quint32(place) | liveFlag));
+            }
+        }
+    };
+    d->bound.bind(iface, ref, label, relatedWidgets, load, BoundControl::NullLabel::Keep);
 }
 
 void CfgTableWidget::updateControl(int hardwareId)
 {
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    const ElementPainter painter(d->bound.iface, d->bound.reference);
-    for (int row = 0; row < rowCount(); ++row) {
-        for (int column = 0; column < columnCount(); ++column) {
-            QTableWidgetItem *cell = item(row, column);
-            // Deliberate: the first missing cell ends the painting of the whole table.
-            if (!cell)
-                return;
-            painter.paint(cell);
+    d->bound.update(hardwareId, [this] {
+        const ElementPainter painter(d->bound.iface, d->bound.reference);
+        for (int row = 0; row < rowCount(); ++row) {
+            for (int column = 0; column < columnCount(); ++column) {
+                QTableWidgetItem *cell = item(row, column);
+                // Deliberate: the first missing cell ends the painting of the whole table.
+                if (!cell)
+                    return;
+                painter.paint(cell);
+            }
         }
-    }
+    });
 }
 
-void CfgTableWidget::inputMode(int mode)
+void CfgTableWidget::updateEnableState(bool state)
 {
-    d->inputModeValue = mode;
+    d->bound.updateEnableState(state);
 }
 
-void CfgTableWidget::setValue(QVariant value)
+void CfgTableWidget::setEnabled(bool bEnable)
 {
-    if (d->bound.iface)
-        d->bound.iface->setValue(d->bound.reference, value);
+    d->bound.setEnabled(bEnable);
 }
 
-bool CfgTableWidget::searchItems(const QList<QTableWidgetItem *> &items, const QString &text,
-                                 int exclude, int &index)
+void CfgTableWidget::setError(bool error)
 {
-    return findPresentElement(items, text, d->editText, exclude, index);
+    d->bound.error = error;
 }
 
-bool CfgTableWidget::isItemExists(QVariant value, int &index)
+bool CfgTableWidget::isError()
 {
-    const QStringList strings = value.toStringList();
-    index = -1;
-    if (strings.isEmpty())
-        return false;
-    return searchItems(findItems(strings.first(), Qt::MatchExactly), strings.first(), -1, index);
-}
-
-bool CfgTableWidget::isItemExists(QString value, int &index)
-{
-    const QList<QTableWidgetItem *> items = findItems(value, Qt::MatchExactly);
-    const int exclude = index;
-    index = -1;
-    // A single hit is the cell just edited.
-    if (items.size() < 2)
-        return false;
-    return searchItems(items, value, exclude, index);
-}
-
-int CfgTableWidget::refuseDuplicate()
-{
-    showCriticalBox(this, tr("Nowy element"), tr("Identyfikator jest już używany"));
-    return 1;
+    return d->bound.error;
 }
 
 int CfgTableWidget::addValue(QVariant value, int ref)
@@ -242,6 +200,11 @@ int CfgTableWidget::addValue(QString value, int ref)
     return 0;
 }
 
+void CfgTableWidget::setValue(QVariant value)
+{
+    d->bound.write(value, BoundControl::Then::Stop);
+}
+
 bool CfgTableWidget::remove(int ref)
 {
     if (!d->bound.iface)
@@ -287,9 +250,29 @@ bool CfgTableWidget::remove(int ref)
     return quint32(d->bound.iface->object(ref).capacity) > 0;
 }
 
-void CfgTableWidget::doubleClicked(QTableWidgetItem *)
+bool CfgTableWidget::isItemExists(QVariant value, int &index)
 {
-    d->editText = currentItem() ? currentItem()->text() : QString();
+    const QStringList strings = value.toStringList();
+    index = -1;
+    if (strings.isEmpty())
+        return false;
+    return searchItems(findItems(strings.first(), Qt::MatchExactly), strings.first(), -1, index);
+}
+
+bool CfgTableWidget::isItemExists(QString value, int &index)
+{
+    const QList<QTableWidgetItem *> items = findItems(value, Qt::MatchExactly);
+    const int exclude = index;
+    index = -1;
+    // A single hit is the cell just edited.
+    if (items.size() < 2)
+        return false;
+    return searchItems(items, value, exclude, index);
+}
+
+void CfgTableWidget::inputMode(int mode)
+{
+    d->inputModeValue = mode;
 }
 
 void CfgTableWidget::ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEditHint)
@@ -311,6 +294,16 @@ void CfgTableWidget::ListWidgetEditEnd(QWidget *, QAbstractItemDelegate::EndEdit
             return; // the host deleted the table while its message was open
     }
     updateControl(0);
+}
+
+void CfgTableWidget::doubleClicked(QTableWidgetItem *)
+{
+    d->editText = currentItem() ? currentItem()->text() : QString();
+}
+
+void CfgTableWidget::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
 }
 
 void CfgTableWidget::changed(int value)
@@ -336,4 +329,34 @@ void CfgTableWidget::changed(int value)
     storeColumns(d->bound.reference, columns);
 }
 
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgTableWidget)
+int CfgTableWidget::refuseDuplicate()
+{
+    showCriticalBox(this, tr("Nowy element"), tr("Identyfikator jest już używany"));
+    return 1;
+}
+
+bool CfgTableWidget::placeCell(int row, int column, QTableWidgetItem *cell)
+{
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) {
+        delete cell;
+        return false;
+    }
+    setItem(row, column, cell);
+    return true;
+}
+
+bool CfgTableWidget::searchItems(const QList<QTableWidgetItem *> &items, const QString &text,
+                                 int exclude, int &index)
+{
+    return findPresentElement(items, text, d->editText, exclude, index);
+}
+
+void CfgTableWidget::storeColumns(int ref, const ColumnVectors &columns)
+{
+    // A value that held no columns (or another container) stays as it was.
+    if (columns.isEmpty())
+        return;
+    const QVariant value = QVariant::fromValue(columns);
+    d->bound.iface->object(ref).value = value;
+    setValue(value);
+}

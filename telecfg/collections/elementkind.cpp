@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/elementkind_p.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/parametertraits_p.h"
 
 #include <QCoreApplication>
 
@@ -281,27 +282,31 @@ const ElementKind &longKind()
 
 const ElementKind *elementKind(int type)
 {
-    switch (type) {
-    case 8:
+    using E = ParameterTraits::Element;
+    switch (ParameterTraits::of(type).element) {
+    case E::UShort:
         return &shortKind();
-    case 24:
+    case E::UInt:
         return &longKind();
-    case 29:
+    case E::Network:
         return &kindOf<NetworkRow>();
-    case 20:
+    case E::Bytes:
         return &kindOf<BytesRow>();
-    case 13:
+    case E::String:
         return &kindOf<StringRow>();
-    default:
-        return nullptr;
+    case E::None:
+        break;
     }
+    return nullptr;
 }
 
 const ElementKind &removalKind(int type)
 {
-    if (type == 8)
+    using E = ParameterTraits::Element;
+    const E element = ParameterTraits::of(type).element;
+    if (element == E::UShort)
         return shortKind();
-    if (type == 24 || type == 29)
+    if (element == E::UInt || element == E::Network)
         return longKind();
     return kindOf<BytesRow>();
 }

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QLocale>
 #include <QRegularExpression>
+#include <utility>
 
 using namespace parametervalues;
 
@@ -188,7 +189,7 @@ QByteArray ParameterTable::saveJson() const
     root.insert(key("hardware"), hardwareList);
     root.insert(key("pages"), pageList);
 
-    for (int ref : qAsConst(d->order)) {
+    for (int ref : std::as_const(d->order)) {
         const MainConfigObject &object = d->records.constFind(ref).value();
         const Private::Entry &entry = d->entries.constFind(ref).value();
         QJsonObject json{{key("ref"), ref}};
@@ -316,13 +317,13 @@ void ParameterTable::setVersion(quint32 version)
 
 void ParameterTable::save()
 {
-    for (int ref : qAsConst(d->order))
+    for (int ref : std::as_const(d->order))
         d->entries[ref].stored = d->records[ref].value;
 }
 
 void ParameterTable::revert()
 {
-    for (int ref : qAsConst(d->order)) {
+    for (int ref : std::as_const(d->order)) {
         if (sameValue(d->records[ref].value, d->entries[ref].stored))
             continue;
         d->records[ref].value = d->entries[ref].stored;
@@ -333,7 +334,7 @@ void ParameterTable::revert()
 QList<int> ParameterTable::modifiedParameters()
 {
     QList<int> refs;
-    for (int ref : qAsConst(d->order))
+    for (int ref : std::as_const(d->order))
         if (isModified(ref))
             refs.append(ref);
     return refs;
@@ -342,7 +343,7 @@ QList<int> ParameterTable::modifiedParameters()
 QList<int> ParameterTable::invalidParameters()
 {
     QList<int> refs;
-    for (int ref : qAsConst(d->order))
+    for (int ref : std::as_const(d->order))
         if (!isValid(ref))
             refs.append(ref);
     return refs;

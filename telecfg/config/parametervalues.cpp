@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
-#include "telecfg/config/parametertypes.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/config/parametervalues_p.h"
 #include "telecfg/qtcompat_p.h"
 
@@ -8,6 +8,7 @@
 #include <QSequentialIterable>
 #include <QVector>
 #include <algorithm>
+#include <utility>
 
 namespace parametervalues {
 namespace {
@@ -18,19 +19,21 @@ Shape shapeOf(const MainConfigObject &object)
 {
     if (object.columnListA.isValid())
         return Shape::Table;
-    switch (object.type) {
-    case ParameterType::UShortList:
+    using E = ParameterTraits::Element;
+    switch (ParameterTraits::of(object.type).element) {
+    case E::UShort:
         return Shape::UShorts;
-    case ParameterType::UIntList:
-    case ParameterType::NetworkList:
+    case E::UInt:
+    case E::Network:
         return Shape::UInts;
-    case ParameterType::ByteArrayList:
+    case E::Bytes:
         return Shape::Bytes;
-    case ParameterType::StringList:
+    case E::String:
         return Shape::Strings;
-    default:
-        return Shape::Scalar;
+    case E::None:
+        break;
     }
+    return Shape::Scalar;
 }
 
 template <class T, class Convert>
@@ -149,7 +152,7 @@ QVariant fromJson(const MainConfigObject &object, const QJsonValue &json)
     }
     // Scalars keep the type their control writes back, so that stored and current compare.
     const QString control = json.toVariant().toString();
-    if (object.type == ParameterType::IntFlag)
+    if (ParameterTraits::of(object.type).intFlag)
         return json.toInt();
     if (json.isBool())
         return json.toBool();
@@ -171,12 +174,13 @@ void readCollectionShape(MainConfigObject &object, const QJsonObject &json)
         object.columnListB = QVariant::fromValue(list);
     }
     const QJsonObject names = json.value(QLatin1String("names")).toObject();
-    if (!names.isEmpty() && object.type == ParameterType::UIntList) {
+    const ParameterTraits::Element element = ParameterTraits::of(object.type).element;
+    if (!names.isEmpty() && element == ParameterTraits::Element::UInt) {
         QList<NamedUInt> list;
         for (auto it = names.begin(); it != names.end(); ++it)
             list.append({it.key().toUInt(), it.value().toString()});
         object.valueNames = QVariant::fromValue(list);
-    } else if (!names.isEmpty() && object.type == ParameterType::UShortList) {
+    } else if (!names.isEmpty() && element == ParameterTraits::Element::UShort) {
         QList<NamedUShort> list;
         for (auto it = names.begin(); it != names.end(); ++it)
             list.append({quint16(it.key().toUInt()), it.value().toString()});
@@ -194,7 +198,7 @@ QJsonValue toJson(const MainConfigObject &object, const QVariant &value)
     while (!places.isEmpty() && isEmptyElement(places.last()))
         places.removeLast();
     QJsonArray array;
-    for (const QVariant &place : qAsConst(places)) {
+    for (const QVariant &place : std::as_const(places)) {
         if (shape == Shape::Table) {
             QJsonArray cells;
             const QVariantList placeCells = place.toList();

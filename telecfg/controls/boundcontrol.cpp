@@ -3,13 +3,64 @@
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/dialogs/licence_p.h"
 
+#include <QHash>
 #include <QLocale>
 #include <QWidget>
+#include <utility>
 
-bool BoundControl::bind(MainConfigIFace *boundIface, int ref, const QList<QWidget *> &related)
+namespace {
+struct Registry
 {
-    iface = boundIface;
-    reference = boundIface ? ref : 0;
+    QHash<const QMetaObject *, const BoundKind *> byMetaObject;
+    QList<const BoundKind *> kinds;
+};
+Registry &registry()
+{
+    static Registry kinds;
+    return kinds;
+}
+} // namespace
+
+void BoundKind::add(const BoundKind *kind)
+{
+    Registry &known = registry();
+    if (known.byMetaObject.contains(kind->metaObject))
+        return;
+    known.byMetaObject.insert(kind->metaObject, kind);
+    known.kinds.append(kind);
+}
+
+const BoundKind *BoundKind::find(const QMetaObject *metaObject)
+{
+    const Registry &known = registry();
+    for (; metaObject; metaObject = metaObject->superClass())
+        if (const BoundKind *kind = known.byMetaObject.value(metaObject))
+            return kind;
+    return nullptr;
+}
+
+const BoundKind *BoundKind::find(const QWidget *widget)
+{
+    return widget ? find(widget->metaObject()) : nullptr;
+}
+
+QList<const BoundKind *> BoundKind::all()
+{
+    return registry().kinds;
+}
+
+BackgroundSheets::BackgroundSheets(const char *widgetClass)
+{
+    const char *colours[] = {"red", "yellow", "white"};
+    for (int colour = Red; colour <= White; ++colour)
+        sheets[colour] = QStringLiteral("%1{background: %2;}")
+                             .arg(QLatin1String(widgetClass), QLatin1String(colours[colour]));
+}
+
+bool BoundControl::bindOnly(MainConfigIFace *table, int ref, const QList<QWidget *> &related)
+{
+    iface = table;
+    reference = table ? ref : 0;
     relatedWidgets.clear();
     for (QWidget *widget : related)
         if (widget)
@@ -18,11 +69,32 @@ bool BoundControl::bind(MainConfigIFace *boundIface, int ref, const QList<QWidge
     return iface != nullptr;
 }
 
-void BoundControl::registerIn(QWidget *control, QWidget *label) const
+void BoundControl::registerIn(QWidget *label, NullLabel nullLabel) const
 {
     MainConfigObject &object = record();
-    object.control = control;
-    object.label = label;
+    object.control = self;
+    if (label || nullLabel == NullLabel::Record)
+        object.label = label;
+}
+
+bool BoundControl::write(const QVariant &value, Then then)
+{
+    if (!iface || loading())
+        return false;
+    iface->setValue(reference, value);
+    if (then == Then::Refresh)
+        refresh();
+    return true;
+}
+
+void BoundControl::paintState(const BackgroundSheets &sheets, bool valid) const
+{
+    if (!valid)
+        applyStyleSheet(self, sheets[BackgroundSheets::Red]);
+    else if (iface->isModified(reference))
+        applyStyleSheet(self, sheets[BackgroundSheets::Yellow]);
+    else
+        applyStyleSheet(self, sheets[BackgroundSheets::White]);
 }
 
 HiddenReason hiddenReason(MainConfigIFace &iface, int ref, int hardwareId)
@@ -55,36 +127,35 @@ bool BoundControl::isHiddenNow(int id)
     return hiddenReason(*iface, reference, hardwareId) != HiddenReason::Shown;
 }
 
-bool BoundControl::refreshVisibility(QWidget *self, int id)
+void BoundControl::applyVisibility(int id)
 {
-    if (!iface)
-        return false;
     const bool hide = isHiddenNow(id);
     self->setVisible(!hide);
-    for (const QPointer<QWidget> &widget : qAsConst(relatedWidgets))
+    for (const QPointer<QWidget> &widget : std::as_const(relatedWidgets))
         if (widget)
             widget->setVisible(!hide);
-    return true;
 }
 
-bool BoundControl::setHidden(QWidget *self, bool hidden)
+void BoundControl::setHidden(bool hidden)
 {
     self->setHidden(hidden);
     if (!iface)
-        return false;
+        return;
     record().hidden = hidden;
-    return true;
+    refresh();
 }
 
-void BoundControl::setEnabled(QWidget *self, bool enable) const
+void BoundControl::setEnabled(bool enable)
 {
     self->setEnabled(enableState ? enable : false);
+    refresh();
 }
 
-void BoundControl::updateEnableState(QWidget *self, bool state)
+void BoundControl::updateEnableState(bool state)
 {
     enableState = state;
     self->setEnabled(enableState ? self->isEnabled() : false);
+    refresh();
 }
 
 void applyStyleSheet(QWidget *widget, const QString &sheet)

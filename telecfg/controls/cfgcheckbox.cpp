@@ -1,9 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcheckbox.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
 
 namespace {
+const BoundKind boundKind = BoundKind::of<CfgCheckBox>("telecfg/controls/cfgcheckbox.h");
+const BoundKindRegistration registration(boundKind);
+
 QString checkBoxSheet(const char *colour, const char *suffix, const QString &separator)
 {
     const QString unchecked = QStringLiteral("QCheckBox::indicator:unchecked {image: "
@@ -37,10 +41,11 @@ const QString &checkBoxSheet(bool enabled, bool modified)
 
 struct CfgCheckBox::Private
 {
+    explicit Private(CfgCheckBox *self) : bound(self, boundKind) {}
     BoundControl bound;
 };
 
-CfgCheckBox::CfgCheckBox(QWidget *parent) : QCheckBox(parent), d(std::make_unique<Private>())
+CfgCheckBox::CfgCheckBox(QWidget *parent) : QCheckBox(parent), d(std::make_unique<Private>(this))
 {
     connect(this, SIGNAL(stateChanged(int)), this, SLOT(changed(int)));
     drawBitmap(true, false);
@@ -51,20 +56,30 @@ CfgCheckBox::~CfgCheckBox() = default;
 void CfgCheckBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                QList<QWidget *> relatedWidgets)
 {
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return;
-    setToolTip(d->bound.record().toolTip);
-    const MainConfigObject &object = d->bound.record();
-    const bool on = object.type == 22 ? object.value.toUInt() != 0 : object.value.toBool();
-    setCheckState(on ? Qt::Checked : Qt::Unchecked);
-    d->bound.registerIn(this, label);
+    // The new state's echo writes the value back to the host; hosts have always had it so.
+    d->bound.bind(iface, ref, label, relatedWidgets, [this] {
+        const MainConfigObject &object = d->bound.record();
+        const bool on = ParameterTraits::of(object.type).intFlag ? object.value.toUInt() != 0
+                                                                 : object.value.toBool();
+        setCheckState(on ? Qt::Checked : Qt::Unchecked);
+    });
 }
 
 void CfgCheckBox::updateControl(int hardwareId)
 {
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
+    d->bound.update(hardwareId, [this] {
+        drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
+    });
+}
+
+void CfgCheckBox::setError(bool error)
+{
+    d->bound.error = error;
+}
+
+bool CfgCheckBox::isError()
+{
+    return d->bound.error;
 }
 
 int CfgCheckBox::getReference()
@@ -72,21 +87,33 @@ int CfgCheckBox::getReference()
     return d->bound.reference;
 }
 
+void CfgCheckBox::setEnabled(bool bEnable)
+{
+    d->bound.setEnabled(bEnable);
+}
+
+void CfgCheckBox::updateEnableState(bool state)
+{
+    d->bound.updateEnableState(state);
+}
+
+void CfgCheckBox::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
+}
+
 void CfgCheckBox::changed(int state)
 {
+    // Deliberate: the check box knows itself unbound by its parameter number 0.
     if (d->bound.reference == 0)
         return;
     const MainConfigObject &object = d->bound.record();
     // A partially checked box counts as checked only when the record asks for it.
     const bool on = object.partialIsChecked ? state != Qt::Unchecked : state == Qt::Checked;
-    const QVariant value = object.type == 22 ? QVariant(int(on)) : QVariant(on);
-    d->bound.iface->setValue(d->bound.reference, value);
-    updateControl(0);
+    d->bound.write(ParameterTraits::of(object.type).intFlag ? QVariant(int(on)) : QVariant(on));
 }
 
 void CfgCheckBox::drawBitmap(bool enabled, bool modified)
 {
     applyStyleSheet(this, checkBoxSheet(enabled, modified));
 }
-
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgCheckBox)

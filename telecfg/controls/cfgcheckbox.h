@@ -24,7 +24,12 @@ public:
     /// Binds the control to one parameter of the host's table and shows its value.
     ///
     /// Takes the record's tool tip and writes this control and `label` into the record's `control`
-    /// and `label` fields. Binding writes no value to the host. A later call replaces the binding.
+    /// and `label` fields. A later call replaces the binding.
+    ///
+    /// Loading the value may write it back to the host: the check box when its state changes,
+    /// the spin boxes once for each of minimum, maximum and value that changes the widget's
+    /// value (so a value outside the bounds reaches the host clamped), and the line edit its
+    /// text. The combo box, the radio button and the collection editors write nothing.
     /// @param iface the host's table; not owned, it must outlive the binding. A null table leaves
     ///        the control unbound, and an unbound control ignores the other calls.
     /// @param ref the parameter's reference number.

@@ -13,6 +13,9 @@
 #include <array>
 
 namespace {
+const BoundKind boundKind = BoundKind::of<CfgComboBox>("telecfg/controls/cfgcombobox.h");
+const BoundKindRegistration registration(boundKind);
+
 enum Colour { Red, Yellow, PaleYellow, White, PaleGrey, ColourCount };
 
 // Built once: a refresh of an unchanged form then costs one string comparison.
@@ -88,12 +91,12 @@ void rememberItemsWhite(const QComboBox *box)
 
 struct CfgComboBox::Private
 {
+    explicit Private(CfgComboBox *self) : bound(self, boundKind) {}
     BoundControl bound;
-    bool loading = false;
     bool skip = false;
 };
 
-CfgComboBox::CfgComboBox(QWidget *parent) : QComboBox(parent), d(std::make_unique<Private>())
+CfgComboBox::CfgComboBox(QWidget *parent) : QComboBox(parent), d(std::make_unique<Private>(this))
 {
     qtcompat::connectCurrentIndexText(this, this, SLOT(changed(const QString &)));
     setFocusPolicy(Qt::StrongFocus);
@@ -104,40 +107,42 @@ CfgComboBox::~CfgComboBox() = default;
 void CfgComboBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                QList<QWidget *> relatedWidgets)
 {
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return;
-    d->loading = true;
-    setToolTip(d->bound.record().toolTip);
-    clear();
-
-    // Keys are positions: a gap leaves a blank item, a key past the entry count is dropped.
-    // Hosts rely on it; deliberate.
-    const QMap<int, QPair<QString, QString>> options = d->bound.record().options;
-    QVector<QPair<QString, QString>> items(options.size());
-    for (auto it = options.cbegin(); it != options.cend(); ++it)
-        if (it.key() >= 0 && it.key() < items.size())
-            items[it.key()] = it.value();
-    for (int i = 0; i < items.size(); ++i)
-        insertItem(i, QIcon(), items[i].first, QVariant(items[i].second));
-
-    selectValue(d->bound.record().value);
-    updateControl(0);
-    d->bound.registerIn(this, label);
-    d->loading = false;
-}
-
-void CfgComboBox::selectValue(const QVariant &value)
-{
-    const int index = qtcompat::findData(this, value, Qt::UserRole);
-    if (index >= 0)
-        setCurrentIndex(index);
+    d->bound.bind(iface, ref, label, relatedWidgets, [this] {
+        // Filling the list and selecting the value are no edits.
+        const BoundControl::Loading loading(d->bound);
+        clear();
+        // Keys are positions: a gap leaves a blank item, a key past the entry count is
+        // dropped. Hosts rely on it; deliberate.
+        const QMap<int, QPair<QString, QString>> options = d->bound.record().options;
+        QVector<QPair<QString, QString>> items(options.size());
+        for (auto it = options.cbegin(); it != options.cend(); ++it)
+            if (it.key() >= 0 && it.key() < items.size())
+                items[it.key()] = it.value();
+        for (int i = 0; i < items.size(); ++i)
+            insertItem(i, QIcon(), items[i].first, QVariant(items[i].second));
+        selectValue(d->bound.record().value);
+        updateControl(0);
+    });
 }
 
 void CfgComboBox::updateControl(int hardwareId)
 {
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    updateColor(isEnabled());
+    d->bound.update(hardwareId, [this] { updateColor(isEnabled()); });
+}
+
+void CfgComboBox::updateEnableState(bool state)
+{
+    d->bound.updateEnableState(state);
+}
+
+void CfgComboBox::setError(bool error)
+{
+    d->bound.error = error;
+}
+
+bool CfgComboBox::isError()
+{
+    return d->bound.error;
 }
 
 void CfgComboBox::updateColor(bool enabled)
@@ -171,18 +176,30 @@ void CfgComboBox::setSkip(bool skipEdits)
     d->skip = skipEdits;
 }
 
+void CfgComboBox::setEnabled(bool bEnable)
+{
+    d->bound.setEnabled(bEnable);
+}
+
+void CfgComboBox::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
+}
+
 void CfgComboBox::changed(const QString &text)
 {
-    if (!d->bound.iface || d->loading || d->skip)
+    if (d->skip)
         return;
     // By shown text: of two equal texts the first one's value is written. Deliberate.
     const int index = findData(text, Qt::DisplayRole, Qt::MatchCaseSensitive);
     const QVariant data = itemData(index, Qt::UserRole);
-    if (!data.isValid())
-        return;
-    d->bound.iface->setValue(d->bound.reference, data);
-    updateControl(0);
-    emit cfgComboBoxChanged();
+    if (data.isValid() && d->bound.write(data))
+        emit cfgComboBoxChanged();
 }
 
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgComboBox)
+void CfgComboBox::selectValue(const QVariant &value)
+{
+    const int index = qtcompat::findData(this, value, Qt::UserRole);
+    if (index >= 0)
+        setCurrentIndex(index);
+}

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgdoublespinbox.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/qtcompat_p.h"
 
@@ -8,30 +9,50 @@
 #include <cmath>
 
 namespace {
-const QString &doubleSpinSheet(int state)
+const BoundKind boundKind = BoundKind::of<CfgDoubleSpinBox>("telecfg/controls/cfgdoublespinbox.h");
+const BoundKindRegistration registration(boundKind);
+
+const BackgroundSheets &sheets()
 {
-    static const QString sheets[3] = {
-        QStringLiteral("QDoubleSpinBox{background: red;}"),
-        QStringLiteral("QDoubleSpinBox{background: yellow;}"),
-        QStringLiteral("QDoubleSpinBox{background: white;}"),
-    };
-    return sheets[state];
+    static const BackgroundSheets sheets("QDoubleSpinBox");
+    return sheets;
 }
-enum { Red, Yellow, White };
 
 double systemDouble(const QString &text)
 {
     return QLocale::system().toDouble(text);
 }
+
+double wholeDouble(const QVariant &value)
+{
+    return double(wholeNumber(value, true));
+}
+
+// Only the value is adapted to the locale's separator; a bound written with the other one
+// parses as 0. Deliberate.
+double localeDouble(const QVariant &value)
+{
+    return systemDouble(value.toString());
+}
+double separatorAdaptedDouble(const QVariant &value)
+{
+    QString text = value.toString();
+    if (systemLocaleUsesPoint())
+        text.replace(QLatin1Char(','), QLatin1Char('.'));
+    else
+        text.replace(QLatin1Char('.'), QLatin1Char(','));
+    return systemDouble(text);
+}
 } // namespace
 
 struct CfgDoubleSpinBox::Private
 {
+    explicit Private(CfgDoubleSpinBox *self) : bound(self, boundKind) {}
     BoundControl bound;
 };
 
 CfgDoubleSpinBox::CfgDoubleSpinBox(QWidget *parent)
-    : QDoubleSpinBox(parent), d(std::make_unique<Private>())
+    : QDoubleSpinBox(parent), d(std::make_unique<Private>(this))
 {
     connect(this, TELECFG_SPINBOX_TEXT_SIGNAL, this, SLOT(updateValue(QString)));
 }
@@ -41,30 +62,47 @@ CfgDoubleSpinBox::~CfgDoubleSpinBox() = default;
 void CfgDoubleSpinBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                     QList<QWidget *> relatedWidgets)
 {
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return;
-    setToolTip(d->bound.record().toolTip);
-    setSingleStep(double(quint32(d->bound.record().step)));
-    // The value is read before the bounds are set: each bound's echo reaches the host's
-    // setValue and would otherwise replace the value about to be shown.
-    const QVariant value = iface->value(ref);
-    if (d->bound.record().type == 21) {
-        setMinimum(double(d->bound.record().minimum.toInt()));
-        setMaximum(double(d->bound.record().maximum.toInt()));
-        setValue(double(value.toInt()));
-    } else {
-        // Only the value is adapted to the locale's separator; a bound written with the
-        // other one parses as 0. Deliberate.
-        setMinimum(systemDouble(d->bound.record().minimum.toString()));
-        setMaximum(systemDouble(d->bound.record().maximum.toString()));
-        QString text = value.toString();
-        if (systemLocaleUsesPoint())
-            text.replace(QLatin1Char(','), QLatin1Char('.'));
+    d->bound.bind(iface, ref, label, relatedWidgets, [&] {
+        setSingleStep(double(quint32(d->bound.record().step)));
+        const QVariant value = iface->value(ref);
+        if (ParameterTraits::of(d->bound.record().type).signedNumber)
+            loadRange(this, d->bound, value, wholeDouble, wholeDouble);
         else
-            text.replace(QLatin1Char('.'), QLatin1Char(','));
-        setValue(systemDouble(text));
-    }
-    d->bound.registerIn(this, label);
+            loadRange(this, d->bound, value, localeDouble, separatorAdaptedDouble);
+    });
+}
+
+void CfgDoubleSpinBox::updateControl(int hardwareId)
+{
+    // The step rule is not repeated here: a refused edit's red lasts until this refresh.
+    d->bound.update(hardwareId, [this] {
+        d->bound.paintState(sheets(), d->bound.iface->isValid(d->bound.reference));
+    });
+}
+
+void CfgDoubleSpinBox::updateEnableState(bool state)
+{
+    d->bound.updateEnableState(state);
+}
+
+void CfgDoubleSpinBox::setEnabled(bool bEnable)
+{
+    d->bound.setEnabled(bEnable);
+}
+
+void CfgDoubleSpinBox::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
+}
+
+void CfgDoubleSpinBox::setError(bool error)
+{
+    d->bound.error = error;
+}
+
+bool CfgDoubleSpinBox::isError()
+{
+    return d->bound.error;
 }
 
 void CfgDoubleSpinBox::updateValue(QString val)
@@ -75,25 +113,8 @@ void CfgDoubleSpinBox::updateValue(QString val)
     float whole = 0;
     const float fraction = std::modf(float(systemDouble(val) / singleStep()), &whole);
     if (fraction != 0.0f || std::isnan(fraction)) {
-        applyStyleSheet(this, doubleSpinSheet(Red));
+        applyStyleSheet(this, sheets()[BackgroundSheets::Red]);
         return;
     }
-    d->bound.iface->setValue(d->bound.reference, QVariant(systemDouble(val)));
-    updateControl(0);
+    d->bound.write(QVariant(systemDouble(val)));
 }
-
-void CfgDoubleSpinBox::updateControl(int hardwareId)
-{
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    // The step rule is not repeated here: a refused edit's red lasts until this refresh.
-    MainConfigIFace *iface = d->bound.iface;
-    int state = White;
-    if (!iface->isValid(d->bound.reference))
-        state = Red;
-    else if (iface->isModified(d->bound.reference))
-        state = Yellow;
-    applyStyleSheet(this, doubleSpinSheet(state));
-}
-
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgDoubleSpinBox)

@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgradiobutton.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/qtcompat_p.h"
 
 namespace {
+const BoundKind boundKind = BoundKind::of<CfgRadioButton>("telecfg/controls/cfgradiobutton.h");
+const BoundKindRegistration registration(boundKind);
+
 QString radioSheet(const char *checkedImage, int blanks)
 {
     const QString separator(blanks, QLatin1Char(' '));
@@ -32,11 +36,20 @@ const QString &radioSheet(bool modified)
 
 struct CfgRadioButton::Private
 {
+    explicit Private(CfgRadioButton *self) : bound(self, boundKind) {}
     BoundControl bound;
+
+    // Checked when `value` is this button's choice; only a Choice parameter sets the state.
+    void select(CfgRadioButton *button, const QVariant &value) const
+    {
+        const MainConfigObject &object = bound.record();
+        if (ParameterTraits::of(object.type).choice)
+            button->setChecked(qtcompat::sameValue(value, object.minimum));
+    }
 };
 
 CfgRadioButton::CfgRadioButton(QWidget *parent)
-    : QRadioButton(parent), d(std::make_unique<Private>())
+    : QRadioButton(parent), d(std::make_unique<Private>(this))
 {
     connect(this, SIGNAL(pressed()), this, SLOT(change()));
     drawBitmap(true, false);
@@ -47,37 +60,54 @@ CfgRadioButton::~CfgRadioButton() = default;
 void CfgRadioButton::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                                   QList<QWidget *> relatedWidgets)
 {
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return;
-    setToolTip(d->bound.record().toolTip);
-    const MainConfigObject &object = d->bound.record();
-    if (object.type == 4)
-        setChecked(qtcompat::sameValue(QVariant(object.value.toUInt()), object.minimum));
-    d->bound.registerIn(this, label);
-}
-
-void CfgRadioButton::change()
-{
-    if (!d->bound.iface)
-        return;
-    // Runs on press, so pressing a checked button writes its value again.
-    const QVariant choice = d->bound.record().minimum;
-    d->bound.iface->setValue(d->bound.reference, choice);
-    updateControl(0);
-}
-
-void CfgRadioButton::setSelected(int value)
-{
-    if (d->bound.iface && d->bound.record().type == 4)
-        setChecked(qtcompat::sameValue(QVariant(value), d->bound.record().minimum));
-    updateControl(0);
+    d->bound.bind(iface, ref, label, relatedWidgets,
+                  [this] { d->select(this, QVariant(d->bound.record().value.toUInt())); });
 }
 
 void CfgRadioButton::updateControl(int hardwareId)
 {
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
+    d->bound.update(hardwareId, [this] {
+        drawBitmap(isEnabled(), d->bound.iface->isModified(d->bound.reference));
+    });
+}
+
+void CfgRadioButton::updateEnableState(bool state)
+{
+    d->bound.updateEnableState(state);
+}
+
+void CfgRadioButton::setError(bool error)
+{
+    d->bound.error = error;
+}
+
+bool CfgRadioButton::isError()
+{
+    return d->bound.error;
+}
+
+void CfgRadioButton::setSelected(int value)
+{
+    if (d->bound.iface)
+        d->select(this, QVariant(value));
+    updateControl(0);
+}
+
+void CfgRadioButton::setEnabled(bool bEnable)
+{
+    d->bound.setEnabled(bEnable);
+}
+
+void CfgRadioButton::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
+}
+
+void CfgRadioButton::change()
+{
+    // Runs on press, so pressing a checked button writes its value again.
+    if (d->bound.iface)
+        d->bound.write(d->bound.record().minimum);
 }
 
 void CfgRadioButton::drawBitmap(bool enabled, bool modified)
@@ -85,5 +115,3 @@ void CfgRadioButton::drawBitmap(bool enabled, bool modified)
     Q_UNUSED(enabled) // a disabled button looks like an enabled one; deliberate
     applyStyleSheet(this, radioSheet(modified));
 }
-
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgRadioButton)

@@ -1,27 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgspinbox.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
 
 namespace {
-const QString &spinSheet(int state)
-{
-    static const QString sheets[3] = {
-        QStringLiteral("QSpinBox{background: red;}"),
-        QStringLiteral("QSpinBox{background: yellow;}"),
-        QStringLiteral("QSpinBox{background: white;}"),
-    };
-    return sheets[state];
-}
-enum { Red, Yellow, White };
+const BoundKind boundKind = BoundKind::of<CfgSpinBox>("telecfg/controls/cfgspinbox.h");
+const BoundKindRegistration registration(boundKind);
 } // namespace
 
 struct CfgSpinBox::Private
 {
+    explicit Private(CfgSpinBox *self) : bound(self, boundKind) {}
     BoundControl bound;
 };
 
-CfgSpinBox::CfgSpinBox(QWidget *parent) : QSpinBox(parent), d(std::make_unique<Private>())
+CfgSpinBox::CfgSpinBox(QWidget *parent) : QSpinBox(parent), d(std::make_unique<Private>(this))
 {
     connect(this, SIGNAL(valueChanged(int)), this, SLOT(updateValue(int)));
 }
@@ -31,48 +25,57 @@ CfgSpinBox::~CfgSpinBox() = default;
 void CfgSpinBox::setReference(MainConfigIFace *iface, int ref, QWidget *label,
                               QList<QWidget *> relatedWidgets)
 {
-    if (!d->bound.bind(iface, ref, relatedWidgets))
-        return;
-    setToolTip(d->bound.record().toolTip);
-    setSingleStep(d->bound.record().step);
-    // The value is read before the bounds are set: each bound's echo reaches the host's
-    // setValue and would otherwise replace the value about to be shown.
-    const QVariant value = iface->value(ref);
-    // Unsigned numbers above 0x7fffffff arrive negative in the widget; deliberate.
-    const bool isSigned = d->bound.record().type == 21;
-    auto read = [isSigned](const QVariant &v) { return isSigned ? v.toInt() : int(v.toUInt()); };
-    setMinimum(read(d->bound.record().minimum));
-    setMaximum(read(d->bound.record().maximum));
-    setValue(read(value));
-    d->bound.registerIn(this, label);
-}
-
-void CfgSpinBox::updateValue(int val)
-{
-    if (!d->bound.iface)
-        return;
-    d->bound.iface->setValue(d->bound.reference, QVariant(val));
-    updateControl(0);
+    d->bound.bind(iface, ref, label, relatedWidgets, [&] {
+        setSingleStep(d->bound.record().step);
+        const QVariant value = iface->value(ref);
+        const bool isSigned = ParameterTraits::of(d->bound.record().type).signedNumber;
+        const auto read = [isSigned](const QVariant &v) { return wholeNumber(v, isSigned); };
+        loadRange(this, d->bound, value, read, read);
+    });
 }
 
 void CfgSpinBox::updateControl(int hardwareId)
 {
-    if (!d->bound.refreshVisibility(this, hardwareId))
-        return;
-    MainConfigIFace *iface = d->bound.iface;
-    int state = White;
-    if (!iface->isValid(d->bound.reference)) {
-        state = Red;
-    } else {
+    static const BackgroundSheets sheets("QSpinBox");
+    d->bound.update(hardwareId, [this] {
+        MainConfigIFace *iface = d->bound.iface;
+        const int ref = d->bound.reference;
         // The multiple rule colours, it does not refuse; negative values are taken by their
         // unsigned reading. A step of 0 leaves the rule out instead of dividing by zero.
-        const auto step = quint32(d->bound.record().step);
-        if (step != 0 && iface->value(d->bound.reference).toUInt() % step != 0)
-            state = Red;
-        else if (iface->isModified(d->bound.reference))
-            state = Yellow;
-    }
-    applyStyleSheet(this, spinSheet(state));
+        const auto isMultiple = [&] {
+            const auto step = quint32(d->bound.record().step);
+            return step == 0 || iface->value(ref).toUInt() % step == 0;
+        };
+        d->bound.paintState(sheets, iface->isValid(ref) && isMultiple());
+    });
 }
 
-TELECFG_BOUND_CONTROL_OPERATIONS(CfgSpinBox)
+void CfgSpinBox::updateEnableState(bool state)
+{
+    d->bound.updateEnableState(state);
+}
+
+void CfgSpinBox::setEnabled(bool bEnable)
+{
+    d->bound.setEnabled(bEnable);
+}
+
+void CfgSpinBox::setHidden(bool hidden)
+{
+    d->bound.setHidden(hidden);
+}
+
+void CfgSpinBox::setError(bool error)
+{
+    d->bound.error = error;
+}
+
+bool CfgSpinBox::isError()
+{
+    return d->bound.error;
+}
+
+void CfgSpinBox::updateValue(int val)
+{
+    d->bound.write(QVariant(val));
+}

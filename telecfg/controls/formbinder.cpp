@@ -1,57 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/formbinder.h"
-#include "telecfg/collections/cfglistwidget.h"
-#include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/config/parametertable.h"
-#include "telecfg/controls/cfgcheckbox.h"
-#include "telecfg/controls/cfgcombobox.h"
-#include "telecfg/controls/cfgdoublespinbox.h"
-#include "telecfg/controls/cfglineedit.h"
-#include "telecfg/controls/cfgradiobutton.h"
-#include "telecfg/controls/cfgspinbox.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/dialogs/licence_p.h"
 
 #include <QLabel>
 #include <QMap>
 #include <QPointer>
 #include <QRegularExpression>
+#include <utility>
 
 namespace {
 // One bound control of the form, with what hides with it.
 struct Binding
 {
     int ref = 0;
+    const BoundKind *kind = nullptr;
     QPointer<QWidget> control;
     QPointer<QWidget> label;
     QList<QPointer<QWidget>> related;
-    std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> setReference;
-    std::function<void(int)> updateControl;
 };
-
-// The bound controls share a protocol but no base class: each is tried by its own type.
-template <class Control>
-bool adapt(QWidget *widget,
-           std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> &bind,
-           std::function<void(int)> &update)
-{
-    auto *control = qobject_cast<Control *>(widget);
-    if (!control)
-        return false;
-    bind = [control](MainConfigIFace *iface, int ref, QWidget *label, QList<QWidget *> related) {
-        control->setReference(iface, ref, label, related);
-    };
-    update = [control](int hardwareId) { control->updateControl(hardwareId); };
-    return true;
-}
-
-template <class... Controls>
-bool adaptAny(QWidget *widget,
-              std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> &bind,
-              std::function<void(int)> &update)
-{
-    return (adapt<Controls>(widget, bind, update) || ...);
-}
 
 QString versionKeyText(const MainConfigObject &record)
 {
@@ -121,13 +90,12 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
     }
 
     const QList<QLabel *> labels = form->findChildren<QLabel *>();
-    for (const auto &[widget, ref] : qAsConst(controls)) {
+    for (const auto &[widget, ref] : std::as_const(controls)) {
         Binding binding;
         binding.ref = ref;
         binding.control = widget;
-        if (!adaptAny<CfgCheckBox, CfgComboBox, CfgLineEdit, CfgSpinBox, CfgDoubleSpinBox,
-                      CfgRadioButton, CfgListWidget, CfgTableWidget>(widget, binding.setReference,
-                                                                     binding.updateControl)) {
+        binding.kind = BoundKind::find(widget);
+        if (!binding.kind) {
             problems.append({widget->objectName(), ref, Problem::NotABoundControl});
             continue;
         }
@@ -148,14 +116,14 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
 
 void FormBinder::rebind()
 {
-    for (const Binding &binding : qAsConst(d->bindings)) {
+    for (const Binding &binding : std::as_const(d->bindings)) {
         if (!binding.control)
             continue;
         QList<QWidget *> related;
         for (const QPointer<QWidget> &widget : binding.related)
             if (widget)
                 related.append(widget);
-        binding.setReference(d->iface, binding.ref, binding.label, related);
+        binding.kind->setReference(binding.control, d->iface, binding.ref, binding.label, related);
     }
 }
 
@@ -163,15 +131,15 @@ void FormBinder::refresh(int hardwareId)
 {
     if (hardwareId != 0)
         d->lastHardwareId = hardwareId;
-    for (const Binding &binding : qAsConst(d->bindings))
+    for (const Binding &binding : std::as_const(d->bindings))
         if (binding.control)
-            binding.updateControl(hardwareId);
+            binding.kind->updateControl(binding.control, hardwareId);
 }
 
 QList<int> FormBinder::parameters() const
 {
     QList<int> refs;
-    for (const Binding &binding : qAsConst(d->bindings))
+    for (const Binding &binding : std::as_const(d->bindings))
         if (binding.control)
             refs.append(binding.ref);
     return refs;
@@ -179,7 +147,7 @@ QList<int> FormBinder::parameters() const
 
 QWidget *FormBinder::control(int ref) const
 {
-    for (const Binding &binding : qAsConst(d->bindings))
+    for (const Binding &binding : std::as_const(d->bindings))
         if (binding.ref == ref && binding.control)
             return binding.control;
     return nullptr;
@@ -216,7 +184,7 @@ QString FormBinder::explainHidden(MainConfigIFace &iface, int ref, int hardwareI
                           .arg(getConfigMaxVersion(record));
     case HiddenReason::HardwareNotListed: {
         QStringList ids;
-        for (int id : qAsConst(record.hardwareIds))
+        for (int id : std::as_const(record.hardwareIds))
             ids.append(QString::number(id));
         return head + QStringLiteral("hardware id %1 is not among its hardware ids %2")
                           .arg(hardwareId)

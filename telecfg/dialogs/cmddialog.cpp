@@ -6,6 +6,7 @@
 #include <QCompleter>
 #include <QDebug>
 #include <algorithm>
+#include <utility>
 
 struct CmdDialog::Private
 {
@@ -28,7 +29,7 @@ CmdDialog::CmdDialog(QWidget *parent, QHash<int, QString> &commandList)
         qDebug() << keys;
         // Items in ascending key order from 0; negative keys are never offered. Walking the
         // sorted keys instead of every number up to the largest keeps a huge key cheap.
-        for (int key : qAsConst(keys)) {
+        for (int key : std::as_const(keys)) {
             if (key >= 0)
                 ui->leCmd->addItem(commands->value(key), QVariant(key));
         }
@@ -86,7 +87,7 @@ void CmdDialog::setNewText(const QString &newText)
 void CmdDialog::splitCommandAndArg(QString text, QString &command, QString &argument)
 {
     bool pastCommand = false;
-    for (const QChar c : qAsConst(text)) {
+    for (const QChar c : std::as_const(text)) {
         if (c.isSpace()) {
             pastCommand = true;
             continue;

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace {
 const int fuelTabCount = 4;
@@ -183,8 +184,8 @@ QFormLayout *ReadBlockConfigWizard::createFuelSection()
     }
 
     // The slot already runs while the items arrive; the selections below settle it.
-    for (const auto &section : qAsConst(sections)) {
-        for (QComboBox *combo : qAsConst(d->fuelComboBoxes)) {
+    for (const auto &section : std::as_const(sections)) {
+        for (QComboBox *combo : std::as_const(d->fuelComboBoxes)) {
             if (combo)
                 combo->addItem(section.first, QVariant(section.second));
         }
@@ -205,7 +206,7 @@ void ReadBlockConfigWizard::updateNextButton()
     if (!d->nextButton)
         return;
     bool anyChecked = false;
-    for (const Private::BlockStruct &block : qAsConst(d->blockStructList))
+    for (const Private::BlockStruct &block : std::as_const(d->blockStructList))
         anyChecked = anyChecked || (block.checkBox && block.checkBox->isChecked());
     d->nextButton->setEnabled(anyChecked);
 }
@@ -243,7 +244,7 @@ void ReadBlockConfigWizard::setComboBoxFuel(int newIndex)
     QMap<int, bool> taken;
     for (int section = 1; section <= fuelTabCount; ++section)
         taken[section] = false;
-    for (QComboBox *combo : qAsConst(d->fuelComboBoxes)) {
+    for (QComboBox *combo : std::as_const(d->fuelComboBoxes)) {
         if (!combo)
             continue;
         const int value = combo->currentData(Qt::UserRole).toInt();
@@ -251,7 +252,7 @@ void ReadBlockConfigWizard::setComboBoxFuel(int newIndex)
             taken[value] = true;
     }
 
-    for (QComboBox *combo : qAsConst(d->fuelComboBoxes)) {
+    for (QComboBox *combo : std::as_const(d->fuelComboBoxes)) {
         if (!combo || combo == sender || combo->currentData(Qt::UserRole).toInt() != wanted)
             continue;
         int freeSection = 0;
@@ -271,7 +272,7 @@ void ReadBlockConfigWizard::setComboBoxFuel(int newIndex)
 void ReadBlockConfigWizard::setBlockStateList()
 {
     for (auto it = d->blockStateMap.begin(); it != d->blockStateMap.end(); ++it) {
-        for (const Private::BlockStruct &block : qAsConst(d->blockStructList)) {
+        for (const Private::BlockStruct &block : std::as_const(d->blockStructList)) {
             if (block.id == it.key())
                 it.value() = block.checkBox && block.checkBox->isChecked();
         }

@@ -7,6 +7,7 @@
 #include "tests/support/testhost.h"
 
 #include <QtTest>
+#include <utility>
 
 namespace {
 const QString red = QStringLiteral("QDoubleSpinBox{background: red;}");
@@ -66,7 +67,7 @@ private slots:
         CfgDoubleSpinBox box;
         box.setReference(&host, 10, nullptr, {});
         QCOMPARE((QList<double>{box.minimum(), box.maximum(), box.value()}), shown);
-        for (const TestHost::Write &write : qAsConst(host.writes))
+        for (const TestHost::Write &write : std::as_const(host.writes))
             QCOMPARE(write.value.userType(), int(QMetaType::Double));
     }
 

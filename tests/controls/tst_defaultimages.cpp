@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QtTest>
+#include <utility>
 
 class TestDefaultImages : public QObject
 {
@@ -73,7 +74,7 @@ void TestDefaultImages::everyImageTheSheetsName()
         }
     }
     QCOMPARE(urls.size(), 16);
-    for (const QString &url : qAsConst(urls))
+    for (const QString &url : std::as_const(urls))
         QVERIFY2(!QImage(url).isNull(), qPrintable(url));
     // Each with its variant for a device pixel ratio of 2, and nothing else.
     QCOMPARE(QDir(QStringLiteral(":/images")).entryList().size(), 32);

@@ -5,6 +5,7 @@
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/controls/boundcontrol.h"
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/controls/cfgdoublespinbox.h"
@@ -28,12 +29,33 @@ QStringList valueControlKinds()
             QStringLiteral("doublespinbox"), QStringLiteral("radiobutton")};
 }
 
+AnyControl makeAnyControl(std::unique_ptr<QWidget> control)
+{
+    const BoundKind *kind = BoundKind::find(control.get());
+    if (!kind)
+        qFatal("%s is no bound control", control->metaObject()->className());
+    QWidget *widget = control.get();
+    AnyControl any;
+    any.widget = std::move(control);
+    any.setReference = [widget, kind](MainConfigIFace *iface, int ref, QWidget *label,
+                                      QList<QWidget *> related) {
+        kind->setReference(widget, iface, ref, label, related);
+    };
+    any.updateControl = [widget, kind](int id) { kind->updateControl(widget, id); };
+    any.setEnabled = [widget, kind](bool on) { kind->setEnabled(widget, on); };
+    any.updateEnableState = [widget, kind](bool on) { kind->updateEnableState(widget, on); };
+    any.setHidden = [widget, kind](bool hidden) { kind->setHidden(widget, hidden); };
+    any.setError = [widget, kind](bool error) { kind->setError(widget, error); };
+    any.isError = [widget, kind]() { return kind->isError(widget); };
+    return any;
+}
+
 namespace {
 template <class Control>
 AnyControl makeEditable(const char *signal, std::function<void(Control *)> edit)
 {
-    AnyControl any = makeAnyControl<Control>();
-    auto *control = static_cast<Control *>(any.widget.get());
+    auto *control = new Control;
+    AnyControl any = makeAnyControl(std::unique_ptr<QWidget>(control));
     any.userEdit = [control, edit] { edit(control); };
     any.editSignal = signal;
     return any;
@@ -47,10 +69,10 @@ AnyControl makeCollection(const char *signal, std::function<void(Control *, int)
     AnyControl any = makeEditable<Control>(signal, {});
     auto *control = static_cast<Control *>(any.widget.get());
     auto ref = std::make_shared<int>(0);
-    any.setReference = [control, ref](MainConfigIFace *iface, int bound, QWidget *label,
-                                      QList<QWidget *> related) {
+    any.setReference = [bind = any.setReference, ref](MainConfigIFace *iface, int bound,
+                                                      QWidget *label, QList<QWidget *> related) {
         *ref = bound;
-        control->setReference(iface, bound, label, related);
+        bind(iface, bound, label, related);
     };
     any.userEdit = [control, ref, add] { add(control, *ref); };
     return any;

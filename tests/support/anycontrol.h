@@ -27,23 +27,9 @@ struct AnyControl
     const char *editSignal = nullptr;
 };
 
-template <class Control> AnyControl makeAnyControl()
-{
-    AnyControl any;
-    auto *control = new Control;
-    any.widget.reset(control);
-    any.setReference = [control](MainConfigIFace *iface, int ref, QWidget *label,
-                                 QList<QWidget *> related) {
-        control->setReference(iface, ref, label, related);
-    };
-    any.updateControl = [control](int id) { control->updateControl(id); };
-    any.setEnabled = [control](bool on) { control->setEnabled(on); };
-    any.updateEnableState = [control](bool on) { control->updateEnableState(on); };
-    any.setHidden = [control](bool hidden) { control->setHidden(hidden); };
-    any.setError = [control](bool error) { control->setError(error); };
-    any.isError = [control]() { return control->isError(); };
-    return any;
-}
+// The protocol's face of a bound control of any kind, reached through its meta-object; the
+// edit and its signal are left empty.
+AnyControl makeAnyControl(std::unique_ptr<QWidget> control);
 
 // The kinds a protocol test runs over, by name ("checkbox", ...). Add each new kind here.
 QStringList anyControlKinds();
