@@ -24,14 +24,14 @@ struct ParameterTraits
     // The element of a list parameter's vector.
     enum class Element { None, UShort, UInt, Network, Bytes, String };
 
+    Validator validator = Validator::None;
+    Element element = Element::None;
     // Spin boxes read bounds and value signed (otherwise unsigned, or as text for the decimal one).
     bool signedNumber = false;
     // A check box holds its flag as an int 0/1 (otherwise as a bool).
     bool intFlag = false;
     // A radio button is checked while the value equals the record's minimum.
     bool choice = false;
-    Validator validator = Validator::None;
-    Element element = Element::None;
 
     static ParameterTraits of(int type);
 

@@ -18,6 +18,7 @@ class TestFormBinder : public QObject
 private slots:
     void bindsByName();
     void refreshAndRebind();
+    void bindsSubclassesOfBoundControls();
     void explainsHidden_data();
     void explainsHidden();
 };
@@ -27,6 +28,15 @@ const QByteArray table = R"({"version": 12, "parameters": [
     {"ref": 101, "type": 22, "value": 1},
     {"ref": 102, "minimum": 10, "maximum": 1500, "value": 400, "stored": 380, "hardware": [2]},
     {"ref": 103, "value": "x"}]})";
+
+// A host's own control built on a bound one.
+class HostSpinBox : public CfgSpinBox
+{
+    Q_OBJECT
+
+public:
+    using CfgSpinBox::CfgSpinBox;
+};
 
 struct Form
 {
@@ -103,6 +113,18 @@ void TestFormBinder::refreshAndRebind()
     form.spin->setValue(500);
     QCOMPARE(other.value(102), QVariant(500));
     QCOMPARE(parameters.value(102), QVariant(380));
+}
+
+void TestFormBinder::bindsSubclassesOfBoundControls()
+{
+    ParameterTable parameters;
+    QVERIFY(parameters.loadJson(table));
+    QWidget form;
+    auto *spin = new HostSpinBox(&form);
+    spin->setObjectName(QStringLiteral("cfg_102"));
+    FormBinder binder;
+    QVERIFY(binder.bind(&form, &parameters).isEmpty());
+    QCOMPARE(spin->value(), 400);
 }
 
 void TestFormBinder::explainsHidden_data()
