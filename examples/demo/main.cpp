@@ -5,6 +5,7 @@
 #include "demotable.h"
 #include "demowindow.h"
 
+#include "telecfg/controls/statecolours.h"
 #include "telecfg/translations.h"
 
 #include <QApplication>
@@ -63,13 +64,19 @@ int main(int argc, char **argv)
         QStringLiteral("LANG"));
     const QCommandLineOption darkOption(
         QStringLiteral("dark"), QStringLiteral("Show the demo in a dark palette (Fusion style)."));
+    const QCommandLineOption darkStatesOption(
+        QStringLiteral("dark-states"),
+        QStringLiteral("Paint the controls' states in the library's dark colours."));
     parser.addOption(tableOption);
     parser.addOption(screenshotOption);
     parser.addOption(langOption);
     parser.addOption(darkOption);
+    parser.addOption(darkStatesOption);
     parser.process(app);
     if (parser.isSet(darkOption))
         useDarkPalette();
+    if (parser.isSet(darkStatesOption))
+        setStateColours(StateColours::Dark);
 
     // The library's texts are Polish; any other language comes from its embedded catalogues,
     // installed before the first of its widgets or its country table is made.

@@ -4,6 +4,7 @@
 
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/config/mainconfig.h"
+#include "telecfg/controls/statecolours.h"
 #include "telecfg/controls/statecue_p.h"
 
 #include <QBrush>
@@ -24,7 +25,10 @@ class StateLook
 public:
     StateLook()
     {
-        static const Qt::GlobalColor colours[] = {Qt::gray, Qt::red, Qt::yellow, Qt::white};
+        static const QColor colours[2][4] = {
+            {Qt::gray, Qt::red, Qt::yellow, Qt::white},
+            {QColor(0x4a, 0x4a, 0x4a), QColor(0x8b, 0x1a, 0x1a), QColor(0x6b, 0x55, 0x00),
+             QColor(0x2a, 0x2a, 0x2a)}}; // the dark set (setStateColours())
         static const char *const tips[] = {
             QT_TRANSLATE_NOOP("CfgListWidget", "Usunięty element"),
             QT_TRANSLATE_NOOP("CfgListWidget", "Nieprawidłowy element"),
@@ -32,7 +36,7 @@ public:
             QT_TRANSLATE_NOOP("CfgListWidget", "Istniejący element"),
         };
         for (int i = 0; i < 4; ++i) {
-            brushes[i] = QBrush(colours[i], Qt::SolidPattern);
+            brushes[i] = QBrush(colours[int(stateColours())][i], Qt::SolidPattern);
             toolTips[i] = QCoreApplication::translate("CfgListWidget", tips[i]);
         }
     }
@@ -44,8 +48,11 @@ public:
         item->setData(StateCueRole, cues[int(state)]);
     }
 
-    // Brushes never change; tool tips do with the language.
-    bool operator==(const StateLook &other) const { return toolTips == other.toolTips; }
+    // Brushes change only with the state colours; tool tips with the language.
+    bool operator==(const StateLook &other) const
+    {
+        return toolTips == other.toolTips && brushes == other.brushes;
+    }
 
 private:
     std::array<QVariant, 4> brushes;

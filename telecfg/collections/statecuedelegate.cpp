@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/elementstate_p.h"
 #include "telecfg/collections/statecuedelegate_p.h"
+#include "telecfg/controls/statecolours.h"
 #include "telecfg/controls/statecue_p.h"
 
 #include <QAbstractItemView>
@@ -9,13 +10,17 @@
 void makeElementTextReadable(QAbstractItemView *view)
 {
     QPalette palette = view->palette();
-    const QColor disabled = statecue::readableText(Qt::red, true);
+    const bool dark = stateColours() == StateColours::Dark;
+    // The hardest background of the set for a disabled text: red, or the dark set's amber.
+    const QColor hardest = dark ? QColor(0x6b, 0x55, 0x00) : QColor(Qt::red);
+    const QColor enabled = dark ? QColor(Qt::white) : QColor(Qt::black);
+    const QColor disabled = statecue::readableText(hardest, true);
     for (QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) {
-        palette.setColor(QPalette::Active, role, Qt::black);
-        palette.setColor(QPalette::Inactive, role, Qt::black);
+        palette.setColor(QPalette::Active, role, enabled);
+        palette.setColor(QPalette::Inactive, role, enabled);
         palette.setColor(QPalette::Disabled, role, disabled);
     }
-    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Base, dark ? QColor(0x2a, 0x2a, 0x2a) : QColor(Qt::white));
     view->setPalette(palette);
 }
 

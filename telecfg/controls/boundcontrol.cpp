@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/config/parametertable.h"
+#include "telecfg/controls/statecolours.h"
 #include "telecfg/dialogs/licence_p.h"
 
 #include <QHash>
@@ -51,12 +52,29 @@ QList<const BoundKind *> BoundKind::all()
     return registry().kinds;
 }
 
+namespace {
+// The standard set's names, and the dark set's colours beside them.
+const char *const backgroundNames[2][3] = {{"red", "yellow", "white"},
+                                           {"#8b1a1a", "#6b5500", "#2a2a2a"}};
+} // namespace
+
 BackgroundSheets::BackgroundSheets(const char *widgetClass)
 {
-    const char *colours[] = {"red", "yellow", "white"};
-    for (int colour = Red; colour <= White; ++colour)
-        sheets[colour] = QStringLiteral("%1{background: %2;}")
-                             .arg(QLatin1String(widgetClass), QLatin1String(colours[colour]));
+    for (int set = 0; set < 2; ++set)
+        for (int colour = Red; colour <= White; ++colour)
+            sheets[set][colour] =
+                QStringLiteral("%1{background: %2;}")
+                    .arg(QLatin1String(widgetClass), QLatin1String(backgroundNames[set][colour]));
+}
+
+const QString &BackgroundSheets::operator[](Colour colour) const
+{
+    return sheets[int(stateColours())][colour];
+}
+
+QColor BackgroundSheets::background(Colour colour)
+{
+    return QColor(QLatin1String(backgroundNames[int(stateColours())][colour]));
 }
 
 bool BoundControl::bindOnly(MainConfigIFace *table, int ref, const QList<QWidget *> &related)
@@ -92,22 +110,24 @@ bool BoundControl::write(const QVariant &value, Then then)
 void BoundControl::paintState(const BackgroundSheets &sheets, bool valid, const QString &why)
 {
     using statecue::State;
+    using Colour = BackgroundSheets::Colour;
     if (!valid) {
-        applyStyleSheet(self, sheets[BackgroundSheets::Red]);
-        present(State::Invalid, why.isEmpty() ? invalidReason() : why, Qt::red);
+        applyStyleSheet(self, sheets[Colour::Red]);
+        present(State::Invalid, why.isEmpty() ? invalidReason() : why,
+                BackgroundSheets::background(Colour::Red));
     } else if (iface->isModified(reference)) {
-        applyStyleSheet(self, sheets[BackgroundSheets::Yellow]);
-        present(State::Modified, storedText(), Qt::yellow);
+        applyStyleSheet(self, sheets[Colour::Yellow]);
+        present(State::Modified, storedText(), BackgroundSheets::background(Colour::Yellow));
     } else {
-        applyStyleSheet(self, sheets[BackgroundSheets::White]);
-        present(State::Normal, QString(), Qt::white);
+        applyStyleSheet(self, sheets[Colour::White]);
+        present(State::Normal, QString(), BackgroundSheets::background(Colour::White));
     }
 }
 
 void BoundControl::paintRefused(const BackgroundSheets &sheets, const QString &why)
 {
     applyStyleSheet(self, sheets[BackgroundSheets::Red]);
-    present(statecue::State::Invalid, why, Qt::red);
+    present(statecue::State::Invalid, why, BackgroundSheets::background(BackgroundSheets::Red));
 }
 
 void BoundControl::present(statecue::State state, const QString &detail,
@@ -245,4 +265,18 @@ bool systemLocaleUsesPoint()
     bool parsed = false;
     QLocale::system().toDouble(QStringLiteral("1.1"), &parsed);
     return parsed;
+}
+
+namespace {
+StateColours chosenColours = StateColours::Standard;
+} // namespace
+
+void setStateColours(StateColours colours)
+{
+    chosenColours = colours;
+}
+
+StateColours stateColours()
+{
+    return chosenColours;
 }

@@ -86,12 +86,15 @@ class BackgroundSheets
 {
 public:
     enum Colour { Red, Yellow, White };
-    // The three sheets "<widgetClass>{background: red;}" and so on.
+    // The three sheets "<widgetClass>{background: red;}" and so on, and their dark set
+    // (setStateColours()).
     explicit BackgroundSheets(const char *widgetClass);
-    const QString &operator[](Colour colour) const { return sheets[colour]; }
+    const QString &operator[](Colour colour) const;
+    // The background a sheet paints under the text.
+    static QColor background(Colour colour);
 
 private:
-    QString sheets[3];
+    QString sheets[2][3];
 };
 
 // The binding of one control and the steps every control takes alike. A control holds one
@@ -186,6 +189,14 @@ public:
     // description, and text colours readable on `textBackground` (where the sheet paints one).
     void present(statecue::State state, const QString &detail = QString(),
                  const QColor &textBackground = QColor());
+    // For a check box or radio button: normal, or modified with the stored state in words
+    // where the host tells it; `checked` reads a stored value as checked or not.
+    template <class Checked> void presentChecked(bool modified, Checked checked)
+    {
+        const QVariant stored = modified ? storedValue() : QVariant();
+        present(modified ? statecue::State::Modified : statecue::State::Normal,
+                stored.isValid() ? statecue::checkedWords(checked(stored)) : QString());
+    }
     // Why the host calls the value invalid, where the library knows it: a range or length or
     // pattern the host's table or the record holds. Empty when it cannot tell.
     QString invalidReason() const;

@@ -72,13 +72,7 @@ void CfgCheckBox::updateControl(int hardwareId)
     d->bound.update(hardwareId, [this] {
         const bool modified = d->bound.iface->isModified(d->bound.reference);
         drawBitmap(isEnabled(), modified);
-        if (!modified) {
-            d->bound.present(statecue::State::Normal);
-            return;
-        }
-        const QVariant stored = d->bound.storedValue();
-        d->bound.present(statecue::State::Modified,
-                         stored.isValid() ? statecue::checkedWords(stored.toBool()) : QString());
+        d->bound.presentChecked(modified, [](const QVariant &stored) { return stored.toBool(); });
     });
 }
 

@@ -4,6 +4,7 @@
 #include "telecfg/controls/accessiblecombobox_p.h"
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/controls/imagecheck_p.h"
+#include "telecfg/controls/statecolours.h"
 #include "telecfg/qtcompat_p.h"
 
 #include <QAbstractItemModel>
@@ -21,13 +22,15 @@ const BoundKindRegistration registration(boundKind);
 enum Colour { Red, Yellow, PaleYellow, White, PaleGrey, ColourCount };
 
 // Built once: a refresh of an unchanged form then costs one string comparison.
+// The dark set (setStateColours()) is the same sheet with dark colours and light text.
 const QString &comboSheet(Colour colour)
 {
-    static const std::array<QString, ColourCount> sheets = [] {
+    static const auto build = [](const char *const names[], const char *text) {
         const QString tabs(7, QLatin1Char('\t'));
         const QString tail =
             QStringLiteral("; border:1px solid; ") + tabs +
-            QStringLiteral("border-radius:2px; padding:1px;color: black; border-color: "
+            QStringLiteral("border-radius:2px; padding:1px;color: ") + QLatin1String(text) +
+            QStringLiteral("; border-color: "
                            "rgb(130,130,130); } ") +
             tabs +
             QStringLiteral("QComboBox::drop-down{border:0px solid black; padding:1px;color: "
@@ -35,14 +38,19 @@ const QString &comboSheet(Colour colour)
             tabs +
             // No slash after the colon, brace before the semicolon: hosts ship it so.
             QStringLiteral("QComboBox::down-arrow {image: url(:images/arrow.png)};");
-        const char *names[ColourCount] = {"red", "yellow", "#ffff8e", "white", "#f1f1f1"};
         std::array<QString, ColourCount> result;
         for (int i = 0; i < ColourCount; ++i)
             result[i] =
                 QStringLiteral("QComboBox{background-color: ") + QLatin1String(names[i]) + tail;
         return result;
-    }();
-    return sheets[colour];
+    };
+    static const char *const standard[ColourCount] = {"red", "yellow", "#ffff8e", "white",
+                                                      "#f1f1f1"};
+    static const char *const dark[ColourCount] = {"#8b1a1a", "#6b5500", "#5a4a00", "#2a2a2a",
+                                                  "#3a3a3a"};
+    static const std::array<QString, ColourCount> sheets[2] = {build(standard, "black"),
+                                                               build(dark, "white")};
+    return sheets[int(stateColours())][colour];
 }
 
 // The item lists last painted white, by model, root and column, until their model announces

@@ -71,17 +71,10 @@ void CfgRadioButton::updateControl(int hardwareId)
     d->bound.update(hardwareId, [this] {
         const bool modified = d->bound.iface->isModified(d->bound.reference);
         drawBitmap(isEnabled(), modified);
-        if (!modified) {
-            d->bound.present(statecue::State::Normal);
-            return;
-        }
         // Stored, this choice was or was not the one taken.
-        const QVariant stored = d->bound.storedValue();
-        d->bound.present(
-            statecue::State::Modified,
-            stored.isValid()
-                ? statecue::checkedWords(stored.toUInt() == d->bound.record().minimum.toUInt())
-                : QString());
+        const quint32 choice = d->bound.record().minimum.toUInt();
+        d->bound.presentChecked(
+            modified, [choice](const QVariant &stored) { return stored.toUInt() == choice; });
     });
 }
 

@@ -159,15 +159,15 @@ double contrastRatio(const QColor &a, const QColor &b)
 
 QColor readableText(const QColor &background, bool disabled)
 {
+    const bool light = contrastRatio(Qt::black, background) >= contrastRatio(Qt::white, background);
     if (disabled) {
-        // A little above the 4.5:1 a text needs, so that rounding never takes it below.
-        for (int grey = 0x80; grey > 0; grey -= 4)
+        // From mid grey towards the text colour, a little above the 4.5:1 a text needs, so
+        // that rounding never takes it below.
+        for (int grey = 0x80; grey > 0 && grey < 0xff; grey += light ? -4 : 4)
             if (contrastRatio(QColor(grey, grey, grey), background) >= 4.6)
                 return QColor(grey, grey, grey);
     }
-    return contrastRatio(Qt::black, background) >= contrastRatio(Qt::white, background)
-               ? QColor(Qt::black)
-               : QColor(Qt::white);
+    return light ? QColor(Qt::black) : QColor(Qt::white);
 }
 
 void paintCue(QPainter *painter, const QRect &rect, State state)
