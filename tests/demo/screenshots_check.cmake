@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The telecfg authors
 # SPDX-License-Identifier: MIT
 file(REMOVE_RECURSE ${OUT})
-execute_process(COMMAND ${DEMO} --screenshot ${OUT} RESULT_VARIABLE rc OUTPUT_VARIABLE out
+execute_process(COMMAND ${DEMO} ${OPTIONS} --screenshot ${OUT} RESULT_VARIABLE rc OUTPUT_VARIABLE out
     ERROR_VARIABLE err)
 if(NOT rc EQUAL 0)
     message(FATAL_ERROR "demo failed (${rc}):\n${out}\n${err}")
