@@ -109,7 +109,7 @@ void TestCfgListWidget::operations_data()
 
     const QVariant none;
     const QVariantList no;
-    const QVariant u16 = vec<quint16>({0, 6});
+    const QVariant u16 = vec<quint16>({6, 0});
     const QVariant named = QVariant::fromValue(QList<NamedUInt>{{7, QString()}, {9, "Dziewięć"}});
     const QVariant v24 = vec<quint32>({7, 0, 9});
     const QVariant v20 = vec<QByteArray>({{"AB\0C", 4}, QByteArray(4, '\0'), "", "12"});
@@ -121,8 +121,8 @@ void TestCfgListWidget::operations_data()
         << "4@0|6@2|5@1" << vec<quint32>({4, 5, 6}) << 1;
     QTest::newRow("add by name") << 8 << u16 << no
                                  << QVariant::fromValue(QList<NamedUShort>{{5, "Pięć"}}) << "add"
-                                 << QVariant("Pięć") << 0 << "Nieznana wartość (6)@1|Pięć@0"
-                                 << vec<quint16>({5, 6}) << 1;
+                                 << QVariant("Pięć") << 0 << "Nieznana wartość (6)@0|Pięć@1"
+                                 << vec<quint16>({6, 5}) << 1;
     // A record whose name list is empty takes a number as it is.
     QTest::newRow("add, no names")
         << 24 << vec<quint32>({0, 0}) << no << QVariant::fromValue(QList<NamedUInt>{}) << "add"
