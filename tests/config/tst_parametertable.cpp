@@ -100,6 +100,8 @@ void TestParameterTable::validity_data()
     QTest::newRow("too long") << QByteArray(
                                      R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})")
                               << false << none;
+    QTest::newRow("longest length")
+        << QByteArray(R"({"ref": 3, "value": "abc", "rules": {"maxLength": 3}})") << true << none;
     QTest::newRow("pattern whole text")
         << QByteArray(R"({"ref": 3, "value": "12345", "rules": {"pattern": "\\d{4}"}})") << false
         << none;
@@ -110,7 +112,9 @@ void TestParameterTable::validity_data()
         << QByteArray(R"({"ref": 3, "type": 24, "capacity": 4, "value": [7, 8, 7]})") << false
         << QList<int>{2};
     QTest::newRow("free places repeat freely")
-        << QByteArray(R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A"]})") << true << none;
+        << QByteArray(
+               R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A", "\u0000", "\u0000"]})")
+        << true << none;
     QTest::newRow("table cell no number")
         << QByteArray(
                R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[0, 0], [1, "x"]], "rules": {"numericCells": true}})")
