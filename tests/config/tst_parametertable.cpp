@@ -142,10 +142,11 @@ void TestParameterTable::writesSignalAndGroups()
     ParameterTable table;
     QVERIFY(table.loadJson(tableWith(R"({"ref": 3, "type": 4, "minimum": 0, "value": 1, "group": 9},
                                         {"ref": 4, "type": 4, "minimum": 1, "value": 1, "group": 9},
-                                        {"ref": 5, "value": 400})")));
+                                        {"ref": 5, "value": 400}, {"ref": 6, "value": 7})")));
     QSignalSpy changes(&table, &ParameterTable::valueChanged);
     table.setValue(5, 400); // an echo of the same value
     QCOMPARE(changes.count(), 0);
+    QCOMPARE(table.value(6), QVariant(7)); // parameters without a group stand alone
     table.setValue(3, 0);
     QCOMPARE(table.value(4), QVariant(0)); // the other choice of the group follows
     QCOMPARE(changes.count(), 1);
