@@ -160,7 +160,7 @@ void TestParameterTable::writesSignalAndGroups()
 
 void TestParameterTable::jsonRoundTrip()
 {
-    QFile file(QFINDTESTDATA("../../examples/demo/sample-table.json"));
+    QFile file(QStringLiteral(TELECFG_SAMPLE_TABLE));
     QVERIFY(file.open(QIODevice::ReadOnly));
     ParameterTable first;
     QString error;
