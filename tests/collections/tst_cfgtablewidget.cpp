@@ -94,6 +94,9 @@ void TestCfgTableWidget::binding_data()
     // Deliberate: a free place before a used one leaves the used row past the row count.
     QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << two << Grid{"-|"};
     // Wrong shapes show what fits, and nothing done on them afterwards crashes.
+    // An identifier of zero bytes is a free place, as an empty one.
+    QTest::newRow("zero-byte identifier")
+        << table({"1|" + QString(2, QChar(0)), "10|x"}) << 2 << two << Grid{"1|10"};
     QTest::newRow("short column") << table({"1|2", "10"}) << 2 << two << Grid{"1|10", "2|-"};
     QTest::newRow("wrong container")
         << QVariant::fromValue(QVector<quint32>{1}) << 1 << two << Grid{};
@@ -162,8 +165,9 @@ void TestCfgTableWidget::addEditRemove_data()
     QTest::newRow("invalid, a cell current")
         << QStringList{"1|", "10|"} << 2 << no << QPoint(-1, 0) << QVariant() << Grid{"1|10"}
         << QStringList{"1|", "10|"} << "";
-    QTest::newRow("edit") << two << 2 << no << QPoint(1, 1) << QVariant("25")
-                          << Grid{"1|10", "2|25"} << QStringList{"1|2", "10|25"} << "";
+    // Off the diagonal, so a row and column mixed up show.
+    QTest::newRow("edit") << two << 2 << no << QPoint(1, 0) << QVariant("15")
+                          << Grid{"1|15", "2|20"} << QStringList{"1|2", "15|20"} << "";
     QTest::newRow("edit, text of another column")
         << two << 2 << no << QPoint(1, 0) << QVariant("2") << same << QStringList{}
         << "Identyfikator jest już używany";

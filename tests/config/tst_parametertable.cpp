@@ -100,6 +100,8 @@ void TestParameterTable::validity_data()
     QTest::newRow("too long") << QByteArray(
                                      R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})")
                               << false << none;
+    QTest::newRow("longest length")
+        << QByteArray(R"({"ref": 3, "value": "abc", "rules": {"maxLength": 3}})") << true << none;
     QTest::newRow("pattern whole text")
         << QByteArray(R"({"ref": 3, "value": "12345", "rules": {"pattern": "\\d{4}"}})") << false
         << none;
@@ -110,7 +112,9 @@ void TestParameterTable::validity_data()
         << QByteArray(R"({"ref": 3, "type": 24, "capacity": 4, "value": [7, 8, 7]})") << false
         << QList<int>{2};
     QTest::newRow("free places repeat freely")
-        << QByteArray(R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A"]})") << true << none;
+        << QByteArray(
+               R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A", "\u0000", "\u0000"]})")
+        << true << none;
     QTest::newRow("table cell no number")
         << QByteArray(
                R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[0, 0], [1, "x"]], "rules": {"numericCells": true}})")
@@ -138,10 +142,11 @@ void TestParameterTable::writesSignalAndGroups()
     ParameterTable table;
     QVERIFY(table.loadJson(tableWith(R"({"ref": 3, "type": 4, "minimum": 0, "value": 1, "group": 9},
                                         {"ref": 4, "type": 4, "minimum": 1, "value": 1, "group": 9},
-                                        {"ref": 5, "value": 400})")));
+                                        {"ref": 5, "value": 400}, {"ref": 6, "value": 7})")));
     QSignalSpy changes(&table, &ParameterTable::valueChanged);
     table.setValue(5, 400); // an echo of the same value
     QCOMPARE(changes.count(), 0);
+    QCOMPARE(table.value(6), QVariant(7)); // parameters without a group stand alone
     table.setValue(3, 0);
     QCOMPARE(table.value(4), QVariant(0)); // the other choice of the group follows
     QCOMPARE(changes.count(), 1);
@@ -155,7 +160,7 @@ void TestParameterTable::writesSignalAndGroups()
 
 void TestParameterTable::jsonRoundTrip()
 {
-    QFile file(QFINDTESTDATA("../../examples/demo/sample-table.json"));
+    QFile file(QStringLiteral(TELECFG_SAMPLE_TABLE));
     QVERIFY(file.open(QIODevice::ReadOnly));
     ParameterTable first;
     QString error;

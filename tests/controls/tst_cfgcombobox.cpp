@@ -52,7 +52,7 @@ private slots:
             << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
             << QStringList{"125", "250", "500"} << 2;
         QTest::newRow("gap leaves blank, key past end lost")
-            << Options{{0, {"A", "a"}}, {1, {"B", "b"}}, {5, {"F", "f"}}} << QVariant("f")
+            << Options{{0, {"A", "a"}}, {1, {"B", "b"}}, {3, {"F", "f"}}} << QVariant("f")
             << QStringList{"A", "B", ""} << QStringList{"a", "b", ""} << 0;
     }
 

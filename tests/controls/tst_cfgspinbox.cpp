@@ -36,6 +36,9 @@ private slots:
         QTest::newRow("unsigned -1 reads huge, wraps")
             << 1 << QVariantList{0u, 0xFFFFFFFFu, 10u} << 5 << "" << QList<int>{-1, -1, -1}
             << white;
+        // A host that stores the bounds' echoes still gets its value shown.
+        QTest::newRow("value inside raised bounds")
+            << 1 << QVariantList{200u, 300u, 250u} << 5 << "" << QList<int>{200, 300, 250} << white;
         QTest::newRow("modified") << 1 << wide + QVariantList{20} << 5 << "modified"
                                   << QList<int>{-100, 100, 20} << yellow;
         QTest::newRow("no multiple, red though modified")
@@ -65,7 +68,6 @@ private slots:
         object.minimum = record[0];
         object.maximum = record[1];
         object.step = step;
-        host.storeWrites = false; // the host keeps exactly the value of the row
         if (state == "invalid")
             host.invalid.insert(10);
         if (state == "modified")

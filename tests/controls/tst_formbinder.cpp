@@ -99,6 +99,7 @@ void TestFormBinder::refreshAndRebind()
     QVERIFY(!form.spin->isHidden() && !form.label->isHidden() && !form.unit->isHidden());
     binder.refresh(0); // the last id stays
     QVERIFY(!form.spin->isHidden());
+    QCOMPARE(binder.explainHidden(102), QStringLiteral("parameter 102 is shown"));
 
     // Values replaced behind the controls come in with a rebind.
     parameters.revert();

@@ -13,8 +13,9 @@
 
 namespace {
 
-// An uncompressed file of three pages, hw1 0x1234, hw2 7, as pack writes it.
-QByteArray packedFile()
+// An uncompressed file of three pages, hw1 0x1234, hw2 7, as pack writes it, or with the
+// pages and size block left plain, as the library's writer can make them.
+QByteArray packedFile(bool plainPages = false)
 {
     firmware fw;
     fw.setHW(0x1234, 7);
@@ -22,9 +23,15 @@ QByteArray packedFile()
     fw.setUserName(QStringLiteral("serwis"));
     fw.SetMark(0, 0, false, 0xFF);
     fw.setCompress(0);
-    fw.addDecodedFirmware(makePayload(PayloadKind::FirmwareLike, 5100));
+    const QByteArray payload = makePayload(PayloadKind::FirmwareLike, 5100);
     QByteArray file;
-    fw.saveEncodedFile(file, QString());
+    if (plainPages) {
+        file = fw.encode(payload, true);
+        firmware::crypt(file, 0x1234, 7, nullptr, 0);
+    } else {
+        fw.addDecodedFirmware(payload);
+        fw.saveEncodedFile(file, QString());
+    }
     return file;
 }
 
@@ -72,6 +79,7 @@ void TestFwTool::damagedFile_data()
 
     QTest::newRow("sound") << packedFile() << -1 << 0 << QString();
     QTest::newRow("sound, its hardware") << packedFile() << 0x1234 << 0 << QString();
+    QTest::newRow("sound, plain pages") << packedFile(true) << -1 << 0 << QString();
     QTest::newRow("other hardware") << packedFile() << 0x99 << 15 << QString();
     QTest::newRow("name block") << damaged(image + 20) << -1 << 6 << "the name block";
     QTest::newRow("size block") << damaged(image + 100) << -1 << 6 << "the size block";

@@ -206,6 +206,7 @@ void TestCountryCode::presetAndResult_data()
     // Emptying the field over a known country reads 0, as typing would.
     row("country 4000", 4000, 1, "0/1", unknown, 1);
     row("network 1000", 260, 1000, "260/", unknown, 260 << 10 | 999);
+    row("country 999", 999, 1, "/1", unknown, 1);
 }
 
 void TestCountryCode::presetAndResult()
