@@ -87,6 +87,7 @@ void CfgListWidget::setReference(MainConfigIFace *iface, int ref, QWidget *label
 void CfgListWidget::updateControl(int hardwareId)
 {
     d->bound.update(hardwareId, [this] {
+        d->bound.presentCollection();
         const ElementPainter painter(d->bound.iface, d->bound.reference);
         // Painting an item again in the same state changes nothing; only the items the model
         // reported changed need it, as long as the host's lists and the texts stay as they were.

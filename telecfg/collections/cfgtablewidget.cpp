@@ -101,6 +101,7 @@ void CfgTableWidget::setReference(MainConfigIFace *iface, int ref, QWidget *labe
 void CfgTableWidget::updateControl(int hardwareId)
 {
     d->bound.update(hardwareId, [this] {
+        d->bound.presentCollection();
         const ElementPainter painter(d->bound.iface, d->bound.reference);
         for (int row = 0; row < rowCount(); ++row) {
             for (int column = 0; column < columnCount(); ++column) {

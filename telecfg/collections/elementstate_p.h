@@ -45,6 +45,7 @@ public:
     {
         item->setData(Qt::BackgroundRole, brushes[int(state)]);
         item->setToolTip(toolTips[int(state)]);
+        item->setData(Qt::AccessibleDescriptionRole, toolTips[int(state)]);
         item->setData(StateCueRole, cues[int(state)]);
     }
 

@@ -143,6 +143,15 @@ QString numberText(const QVariant &number)
 }
 } // namespace
 
+void BoundControl::presentCollection()
+{
+    using statecue::State;
+    const State state = !iface->isValid(reference)     ? State::Invalid
+                        : iface->isModified(reference) ? State::Modified
+                                                       : State::Normal;
+    statecue::present(self, {state, QString(), QColor(), false}, cue);
+}
+
 QString BoundControl::invalidReason() const
 {
     const QVariant current = iface->value(reference);

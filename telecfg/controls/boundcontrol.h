@@ -189,6 +189,9 @@ public:
     // description, and text colours readable on `textBackground` (where the sheet paints one).
     void present(statecue::State state, const QString &detail = QString(),
                  const QColor &textBackground = QColor());
+    // For a list or table editor: the parameter's state as a whole in words; its elements
+    // carry their own cues.
+    void presentCollection();
     // For a check box or radio button: normal, or modified with the stored state in words
     // where the host tells it; `checked` reads a stored value as checked or not.
     template <class Checked> void presentChecked(bool modified, Checked checked)

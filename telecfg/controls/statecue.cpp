@@ -230,7 +230,7 @@ void present(QWidget *control, const Presentation &presentation, Memo &memo)
         memo.hostToolTip = current; // set by the host (or at binding) since the last refresh
     memo.state = presentation.state;
     memo.detail = presentation.detail;
-    showCue(control, presentation.state);
+    showCue(control, presentation.cornerCue ? presentation.state : State::Normal);
     const QString line = stateLine(presentation);
     QString tip = memo.hostToolTip;
     if (!line.isEmpty())

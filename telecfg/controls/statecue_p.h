@@ -26,6 +26,9 @@ struct Presentation
     // The background the control's style sheet paints under its text; invalid where the
     // sheet paints none (the text then stands on the palette's own background).
     QColor textBackground;
+    // Whether the control shows the corner cue itself (the list and table editors leave it to
+    // their elements).
+    bool cornerCue = true;
 };
 
 // What present() last did to a control, so that a refresh that changes nothing costs only
