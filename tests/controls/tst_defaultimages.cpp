@@ -109,11 +109,15 @@ void TestDefaultImages::sharpAtScaleTwo_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QString>("image");
+    QTest::addColumn<QString>("hovered"); // Qt 6's offscreen pointer may rest on the control
     QTest::newRow("check box") << "checkbox"
-                               << "checkbox_grey_checked";
+                               << "checkbox_grey_checked"
+                               << "checkbox_checked_hover";
     QTest::newRow("radio button") << "radio"
-                                  << "radiobutton_selected_black";
+                                  << "radiobutton_selected_black"
+                                  << "radiobutton_selected_hover";
     QTest::newRow("combo box arrow") << "combo"
+                                     << "arrow"
                                      << "arrow";
 }
 
@@ -123,6 +127,7 @@ void TestDefaultImages::sharpAtScaleTwo()
 {
     QFETCH(QString, kind);
     QFETCH(QString, image);
+    QFETCH(QString, hovered);
     initDefaultImages();
     TestHost host;
     host.add(3, 1, true).minVersions[0] = 0;
@@ -155,8 +160,9 @@ void TestDefaultImages::sharpAtScaleTwo()
     if (shot.devicePixelRatio() < 2)
         QSKIP("needs a device pixel ratio of 2 (tst_defaultimages_scale2)");
     const QImage sharp(QStringLiteral(":/images/%1@2x.png").arg(image));
-    QVERIFY(!sharp.isNull());
-    QVERIFY2(contains(shot, sharp), qPrintable(image));
+    const QImage sharpHovered(QStringLiteral(":/images/%1@2x.png").arg(hovered));
+    QVERIFY(!sharp.isNull() && !sharpHovered.isNull());
+    QVERIFY2(contains(shot, sharp) || contains(shot, sharpHovered), qPrintable(image));
 }
 
 QTEST_MAIN(TestDefaultImages)
