@@ -192,7 +192,7 @@ QString BoundControl::storedText() const
     const QVariant stored = storedValue();
     if (!stored.isValid())
         return QString();
-    const QString text = stored.toString();
+    QString text = stored.toString();
     for (const auto &option : record().options)
         if (option.second == text)
             return option.first;

@@ -15,9 +15,9 @@ file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
 set(installed "")
 foreach(build QT5_BUILD QT6_BUILD)
-    # The Designer plugins go to each Qt's own folder, not into the prefix: left out here.
+    # The Designer plugins too: each under its own Qt's plugin folder within the prefix.
     set(files "")
-    foreach(component runtime dev tools Unspecified)
+    foreach(component runtime dev tools designer Unspecified)
         run(${CMAKE_COMMAND} --install ${${build}} --prefix ${prefix} --component ${component})
         if(EXISTS ${${build}}/install_manifest_${component}.txt)
             file(STRINGS ${${build}}/install_manifest_${component}.txt listed)
