@@ -193,7 +193,7 @@ QString BoundControl::storedText() const
     if (!stored.isValid())
         return QString();
     QString text = stored.toString();
-    for (const auto &option : record().options)
+    for (const auto &option : std::as_const(record().options))
         if (option.second == text)
             return option.first;
     return text;

@@ -7,7 +7,8 @@
 
 namespace {
 const BoundKind boundKind = BoundKind::of<CfgCheckBox>("telecfg/controls/cfgcheckbox.h");
-const BoundKindRegistration registration(boundKind);
+// Registered when the library loads, so the kinds are known before any control is made.
+const BoundKindRegistration registration(boundKind); // clazy:exclude=non-pod-global-static
 
 QString checkBoxSheet(const char *colour, const char *suffix, const QString &separator)
 {

@@ -17,7 +17,8 @@
 
 namespace {
 const BoundKind boundKind = BoundKind::of<CfgComboBox>("telecfg/controls/cfgcombobox.h");
-const BoundKindRegistration registration(boundKind);
+// Registered when the library loads, so the kinds are known before any control is made.
+const BoundKindRegistration registration(boundKind); // clazy:exclude=non-pod-global-static
 
 enum Colour { Red, Yellow, PaleYellow, White, PaleGrey, ColourCount };
 

@@ -10,7 +10,8 @@
 
 namespace {
 const BoundKind boundKind = BoundKind::of<CfgDoubleSpinBox>("telecfg/controls/cfgdoublespinbox.h");
-const BoundKindRegistration registration(boundKind);
+// Registered when the library loads, so the kinds are known before any control is made.
+const BoundKindRegistration registration(boundKind); // clazy:exclude=non-pod-global-static
 
 const BackgroundSheets &sheets()
 {

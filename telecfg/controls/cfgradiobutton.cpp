@@ -8,7 +8,8 @@
 
 namespace {
 const BoundKind boundKind = BoundKind::of<CfgRadioButton>("telecfg/controls/cfgradiobutton.h");
-const BoundKindRegistration registration(boundKind);
+// Registered when the library loads, so the kinds are known before any control is made.
+const BoundKindRegistration registration(boundKind); // clazy:exclude=non-pod-global-static
 
 QString radioSheet(const char *checkedImage, int blanks)
 {

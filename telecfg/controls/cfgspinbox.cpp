@@ -6,7 +6,8 @@
 
 namespace {
 const BoundKind boundKind = BoundKind::of<CfgSpinBox>("telecfg/controls/cfgspinbox.h");
-const BoundKindRegistration registration(boundKind);
+// Registered when the library loads, so the kinds are known before any control is made.
+const BoundKindRegistration registration(boundKind); // clazy:exclude=non-pod-global-static
 } // namespace
 
 struct CfgSpinBox::Private
