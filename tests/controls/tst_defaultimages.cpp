@@ -37,6 +37,15 @@ void collectUrls(const QString &sheet, QSet<QString> *urls)
     for (auto it = url.globalMatch(sheet); it.hasNext();)
         urls->insert(it.next().captured(1));
 }
+// A check box's record at 3, a radio button's at 4 and a combo box's at 5.
+void addImageRecords(TestHost &host)
+{
+    host.add(3, 1, true).minVersions[0] = 0;
+    host.add(4, 4, 1).minimum = 1;
+    host.records[4].minVersions[0] = 0;
+    host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
+    host.records[5].minVersions[0] = 0;
+}
 } // namespace
 
 // Every image any sheet names, in every state a control paints, loads from the default set,
@@ -47,11 +56,7 @@ void TestDefaultImages::everyImageTheSheetsName()
     initDefaultImages();
 
     TestHost host;
-    host.add(3, 1, true).minVersions[0] = 0;
-    host.add(4, 4, 1).minimum = 1;
-    host.records[4].minVersions[0] = 0;
-    host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
-    host.records[5].minVersions[0] = 0;
+    addImageRecords(host);
     CfgCheckBox box;
     CfgRadioButton radio;
     CfgComboBox combo;
@@ -130,13 +135,7 @@ void TestDefaultImages::sharpAtScaleTwo()
     QFETCH(QString, hovered);
     initDefaultImages();
     TestHost host;
-    host.add(3, 1, true).minVersions[0] = 0;
-    host.add(4, 4, 1).minimum = 1;
-    host.records[4].minVersions[0] = 0;
-    host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
-    host.records[5].minVersions[0] = 0;
-    if (image.contains(QLatin1String("yellow")))
-        host.modified = {3};
+    addImageRecords(host);
     std::unique_ptr<QWidget> widget;
     if (kind == QLatin1String("checkbox")) {
         auto *box = new CfgCheckBox;
