@@ -18,7 +18,7 @@
 #include "telecfg/controls/cfglineedit.h"
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/cfgspinbox.h"
-#include "telecfg/controls/formbinder.h"
+#include "telecfg/form/formbinder.h"
 #include "telecfg/controls/statecolours.h"
 #include "telecfg/controls/visibility.h"
 #include "telecfg/dialogs/cmddialog.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "telecfg/controls/formbinder.h"
+#include "telecfg/form/formbinder.h"
 
 #include <QMainWindow>
 

@@ -8,7 +8,7 @@
 #include "ui_form.h"
 
 #include <telecfg/config/parametertable.h>
-#include <telecfg/controls/formbinder.h>
+#include <telecfg/form/formbinder.h>
 #include <telecfg/images/defaultimages.h>
 
 #include <QApplication>

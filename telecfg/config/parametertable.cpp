@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/config/parametertable.h"
-#include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/collectiontypes.h"
 #include "telecfg/config/parametervalues_p.h"
 
 #include <QJsonArray>

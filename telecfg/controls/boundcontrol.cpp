@@ -3,7 +3,7 @@
 #include "telecfg/controls/boundcontrol.h"
 #include "telecfg/config/parametertable.h"
 #include "telecfg/controls/statecolours.h"
-#include "telecfg/dialogs/licence_p.h"
+#include "telecfg/config/licence_p.h"
 
 #include <QHash>
 #include <QLocale>

@@ -1,15 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/gui.h"
-#include "telecfg/dialogs/licence_p.h"
+#include "telecfg/config/licence_p.h"
 #include "telecfg/network/countrytable.h"
 
 #include <QGroupBox>
 #include <QVector>
-
-namespace {
-int licenceLevel = 0;
-}
 
 GUI::GUI()
 {
@@ -42,10 +38,5 @@ void setGroupBoxTitleBold(QGroupBox *box)
 
 void setGUILicenseLevel(int level)
 {
-    licenceLevel = level;
-}
-
-int guiLicenseLevel()
-{
-    return licenceLevel;
+    setLicenceLevel(level);
 }

@@ -4,7 +4,7 @@
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfglineedit.h"
 #include "telecfg/controls/cfgspinbox.h"
-#include "telecfg/controls/formbinder.h"
+#include "telecfg/form/formbinder.h"
 #include "telecfg/dialogs/gui.h"
 
 #include <QLabel>

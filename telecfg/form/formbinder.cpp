@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
-#include "telecfg/controls/formbinder.h"
+#include "telecfg/form/formbinder.h"
 #include "telecfg/config/parametertable.h"
 #include "telecfg/controls/boundcontrol.h"
-#include "telecfg/dialogs/licence_p.h"
+#include "telecfg/config/licence_p.h"
 
 #include <QLabel>
 #include <QMap>
