@@ -86,6 +86,12 @@ ParameterTable::~ParameterTable() = default;
 
 void ParameterTable::clear()
 {
+    empty();
+    emit reset();
+}
+
+void ParameterTable::empty()
+{
     d->records.clear();
     d->entries.clear();
     d->order.clear();
@@ -97,9 +103,10 @@ void ParameterTable::clear()
 
 bool ParameterTable::loadJson(const QByteArray &json, QString *error)
 {
-    clear();
+    empty();
     auto fail = [this, error](const QString &why) {
-        clear();
+        empty();
+        emit reset();
         if (error)
             *error = why;
         return false;
@@ -151,7 +158,7 @@ bool ParameterTable::loadJson(const QByteArray &json, QString *error)
         object.value = fromJson(object, json.value(key("value")));
         addRecord(ref, object);
         if (json.contains(key("stored")))
-            setStoredValue(ref, fromJson(object, json.value(key("stored"))));
+            d->entries[ref].stored = fromJson(object, json.value(key("stored")));
         setGroup(ref, json.value(key("group")).toInt());
 
         const QJsonObject ruleJson = json.value(key("rules")).toObject();
@@ -170,6 +177,7 @@ bool ParameterTable::loadJson(const QByteArray &json, QString *error)
         presentation.decimals = json.value(key("decimals")).toInt();
         setPresentation(ref, presentation);
     }
+    emit reset();
     return true;
 }
 
@@ -277,7 +285,11 @@ QVariant ParameterTable::storedValue(int ref) const
 
 void ParameterTable::setStoredValue(int ref, const QVariant &value)
 {
-    d->entries[ref].stored = value;
+    QVariant &stored = d->entries[ref].stored;
+    const bool changed = !sameValue(stored, value) || !stored.isValid();
+    stored = value;
+    if (changed)
+        emit storedValueChanged(ref);
 }
 
 ParameterTable::Rules ParameterTable::rules(int ref) const
@@ -317,8 +329,13 @@ void ParameterTable::setVersion(quint32 version)
 
 void ParameterTable::save()
 {
-    for (int ref : std::as_const(d->order))
-        d->entries[ref].stored = d->records[ref].value;
+    for (int ref : std::as_const(d->order)) {
+        QVariant &stored = d->entries[ref].stored;
+        if (sameValue(stored, d->records[ref].value))
+            continue;
+        stored = d->records[ref].value;
+        emit storedValueChanged(ref);
+    }
 }
 
 void ParameterTable::revert()
@@ -363,14 +380,22 @@ void ParameterTable::setValue(int ref, QVariant v)
 {
     const bool changed = !sameValue(d->records[ref].value, v);
     const int group = d->entries.value(ref).group;
+    QList<int> members;
     if (group != 0) {
-        for (auto it = d->entries.cbegin(); it != d->entries.cend(); ++it)
-            if (it.value().group == group)
-                d->records[it.key()].value = v;
+        for (auto it = d->entries.cbegin(); it != d->entries.cend(); ++it) {
+            if (it.value().group != group || it.key() == ref)
+                continue;
+            QVariant &value = d->records[it.key()].value;
+            if (!sameValue(value, v))
+                members.append(it.key());
+            value = v;
+        }
     }
     d->records[ref].value = v;
     if (changed)
         emit valueChanged(ref);
+    for (int member : std::as_const(members))
+        emit valueChanged(member);
 }
 
 bool ParameterTable::isValid(int ref)
@@ -379,6 +404,8 @@ bool ParameterTable::isValid(int ref)
     const Rules rule = d->entries.value(ref).rules;
     if (isCollection(record))
         return invalidElements(record, rule.numericCells).isEmpty();
+    if (!multipleOfStep(record, record.value))
+        return false;
     const QString text = record.value.toString();
     if (rule.minimum.isValid() || rule.maximum.isValid()) {
         double number = 0;

@@ -186,11 +186,19 @@ public:
     static bool sameValue(const QVariant &a, const QVariant &b);
 
 signals:
-    /// A parameter's current value changed through setValue() or revert().
+    /// A parameter's current value changed through setValue() or revert(); written to one
+    /// member of a radio group, each member whose value changed is told.
     /// @param ref the parameter number.
     void valueChanged(int ref);
+    /// A parameter's stored value changed through setStoredValue() or save().
+    /// @param ref the parameter number.
+    void storedValueChanged(int ref);
+    /// The whole table was replaced (loadJson()) or emptied (clear()).
+    void reset();
 
 private:
+    void empty();
+
     struct Private;
     const std::unique_ptr<Private> d;
 };

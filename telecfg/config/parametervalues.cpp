@@ -236,6 +236,12 @@ void writeCollectionShape(const MainConfigObject &object, QJsonObject &json)
         json.insert(QLatin1String("names"), names);
 }
 
+bool multipleOfStep(const MainConfigObject &object, const QVariant &value)
+{
+    const auto step = quint32(object.step);
+    return step == 0 || value.toUInt() % step == 0;
+}
+
 bool isCollection(const MainConfigObject &object)
 {
     return shapeOf(object) != Shape::Scalar;

@@ -19,6 +19,10 @@ QJsonValue toJson(const MainConfigObject &object, const QVariant &value);
 // Capacity-independent shape of collection parameters: column lists and value names.
 void readCollectionShape(MainConfigObject &object, const QJsonObject &json);
 void writeCollectionShape(const MainConfigObject &object, QJsonObject &json);
+// The step rule of a number: the value (negative ones by their unsigned reading) is a
+// multiple of the record's step; a step of 0 leaves the rule out. The spin box paints by it
+// and the ready table judges by it, so the two never disagree.
+bool multipleOfStep(const MainConfigObject &object, const QVariant &value);
 bool isCollection(const MainConfigObject &object);
 
 // Equality as the table sees it: containers element by element, numbers by value, else text.

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/boundcontrol.h"
+#include "telecfg/config/licence_p.h"
 #include "telecfg/config/parametertable.h"
 #include "telecfg/controls/statecolours.h"
-#include "telecfg/config/licence_p.h"
 
 #include <QHash>
 #include <QLocale>
@@ -97,11 +97,22 @@ void BoundControl::registerIn(QWidget *label, NullLabel nullLabel) const
         object.label = label;
 }
 
+namespace {
+QWidget *writer = nullptr;
+}
+
+QWidget *BoundControl::writing()
+{
+    return writer;
+}
+
 bool BoundControl::write(const QVariant &value, Then then)
 {
     if (!iface || loading())
         return false;
+    QWidget *const outer = std::exchange(writer, self);
     iface->setValue(reference, value);
+    writer = outer;
     if (then == Then::Refresh)
         refresh();
     return true;

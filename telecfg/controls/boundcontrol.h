@@ -155,6 +155,9 @@ public:
     // setValue and, unless told not to, the control's refresh. True when it wrote.
     enum class Then { Refresh, Stop };
     bool write(const QVariant &value, Then then = Then::Refresh);
+    // The control whose write is under way, or null: whoever follows the table's changes tells
+    // the control the user is editing (it shows the value already) from the others.
+    static QWidget *writing();
 
     // The control's updateControl(0).
     void refresh() const { kind.updateControl(self, 0); }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgspinbox.h"
 #include "telecfg/config/parametertraits_p.h"
+#include "telecfg/config/parametervalues_p.h"
 #include "telecfg/controls/boundcontrol.h"
 
 namespace {
@@ -41,12 +42,12 @@ void CfgSpinBox::updateControl(int hardwareId)
     d->bound.update(hardwareId, [this] {
         MainConfigIFace *iface = d->bound.iface;
         const int ref = d->bound.reference;
-        // The multiple rule colours, it does not refuse; negative values are taken by their
-        // unsigned reading. A step of 0 leaves the rule out instead of dividing by zero.
-        const auto step = quint32(d->bound.record().step);
-        const bool multiple = step == 0 || iface->value(ref).toUInt() % step == 0;
-        d->bound.paintState(sheets, iface->isValid(ref) && multiple,
-                            multiple ? QString() : statecue::notAMultipleOf(QString::number(step)));
+        // The multiple rule colours, it does not refuse.
+        const bool multiple = parametervalues::multipleOfStep(d->bound.record(), iface->value(ref));
+        d->bound.paintState(
+            sheets, iface->isValid(ref) && multiple,
+            multiple ? QString()
+                     : statecue::notAMultipleOf(QString::number(quint32(d->bound.record().step))));
     });
 }
 

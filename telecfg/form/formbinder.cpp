@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/form/formbinder.h"
+#include "telecfg/config/licence_p.h"
 #include "telecfg/config/parametertable.h"
 #include "telecfg/controls/boundcontrol.h"
-#include "telecfg/config/licence_p.h"
+#include "telecfg/form/formstate.h"
 
+#include <QHash>
 #include <QLabel>
 #include <QMap>
 #include <QPointer>
@@ -32,8 +34,35 @@ QString versionKeyText(const MainConfigObject &record)
 struct FormBinder::Private
 {
     QList<Binding> bindings;
+    // The bindings of each parameter, by their place in `bindings`.
+    QHash<int, QList<int>> byRef;
     MainConfigIFace *iface = nullptr;
     int lastHardwareId = 0;
+    std::unique_ptr<FormState> ownState;
+    QPointer<FormState> state;
+    QList<QMetaObject::Connection> following;
+
+    void load(const Binding &binding) const
+    {
+        QList<QWidget *> related;
+        for (const QPointer<QWidget> &widget : binding.related)
+            if (widget)
+                related.append(widget);
+        binding.kind->setReference(binding.control, iface, binding.ref, binding.label, related);
+    }
+
+    // A parameter's value changed: its controls show it, except the one whose edit wrote it
+    // (it shows it already and refreshes itself).
+    void follow(int ref) const
+    {
+        for (int index : byRef.value(ref)) {
+            const Binding &binding = bindings[index];
+            if (!binding.control || binding.control == BoundControl::writing())
+                continue;
+            load(binding);
+            binding.kind->updateControl(binding.control, 0);
+        }
+    }
 };
 
 QString FormBinder::Problem::text() const
@@ -57,7 +86,17 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
                                             std::function<bool(int)> exists)
 {
     d->bindings.clear();
+    d->byRef.clear();
     d->iface = table;
+    if (d->ownState && d->ownState->table() != table) {
+        if (d->state == d->ownState.get())
+            follow(nullptr);
+        d->ownState.reset();
+    }
+    if (auto *ready = dynamic_cast<ParameterTable *>(table); ready && !d->state) {
+        d->ownState = std::make_unique<FormState>(ready);
+        follow(d->ownState.get());
+    }
     QList<Problem> problems;
     if (!form || !table)
         return problems;
@@ -108,6 +147,7 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
         }
         for (QWidget *related : relatedByRef.value(ref))
             binding.related.append(related);
+        d->byRef[ref].append(d->bindings.size());
         d->bindings.append(binding);
     }
     rebind();
@@ -116,15 +156,32 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
 
 void FormBinder::rebind()
 {
-    for (const Binding &binding : std::as_const(d->bindings)) {
-        if (!binding.control)
-            continue;
-        QList<QWidget *> related;
-        for (const QPointer<QWidget> &widget : binding.related)
-            if (widget)
-                related.append(widget);
-        binding.kind->setReference(binding.control, d->iface, binding.ref, binding.label, related);
-    }
+    for (const Binding &binding : std::as_const(d->bindings))
+        if (binding.control)
+            d->load(binding);
+}
+
+void FormBinder::follow(FormState *state)
+{
+    for (const QMetaObject::Connection &connection : std::as_const(d->following))
+        disconnect(connection);
+    d->following.clear();
+    d->state = state;
+    if (!state)
+        return;
+    d->following = {
+        connect(state, &FormState::parameterChanged, this, [this](int ref) { d->follow(ref); }),
+        connect(state, &FormState::reloaded, this,
+                [this] {
+                    rebind();
+                    refresh();
+                }),
+    };
+}
+
+FormState *FormBinder::state() const
+{
+    return d->state;
 }
 
 void FormBinder::refresh(int hardwareId)

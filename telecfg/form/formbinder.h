@@ -12,6 +12,8 @@
 #include <functional>
 #include <memory>
 
+class FormState;
+
 /// @file
 /// Binding every control of a designed form in one call.
 
@@ -71,9 +73,22 @@ public:
     ///         every `cfg_` name bound.
     QList<Problem> bind(QWidget *form, MainConfigIFace *table,
                         std::function<bool(int)> exists = {});
-    /// Binds every control again: binding is what loads a value into a control, so a host
-    /// calls this after it replaced values behind the controls' back (a revert, a load).
+    /// Binds every control again: binding is what loads a value into a control. A binder that
+    /// follows a FormState does it by itself; without one, a host calls this after it replaced
+    /// values behind the controls' back (a revert, a load).
     void rebind();
+    /// Makes the form follow every change of the table: after an edit in one control the other
+    /// controls of that parameter and of its radio group show the new value and state; after a
+    /// revert, a load or the host's own setValue() every control concerned shows its value.
+    /// Binding to a ParameterTable follows a state of the binder's own by itself; a host with
+    /// its own table makes a FormState over it, calls its tableChanged() from setValue(), and
+    /// passes it here. The state must outlive the binder or be followed no more (null).
+    /// @param state the state to follow; null follows nothing.
+    void follow(FormState *state);
+    /// The state the form follows.
+    /// @return the state given to follow(), or the binder's own over a ParameterTable; null
+    ///         before bind() to a ParameterTable or follow().
+    FormState *state() const;
     /// Refreshes the visibility and colours of every bound control.
     /// @param hardwareId the connected device's hardware id; 0 takes the id of the last refresh.
     void refresh(int hardwareId = 0);
