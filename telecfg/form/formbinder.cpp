@@ -3,7 +3,9 @@
 #include "telecfg/form/formbinder.h"
 #include "telecfg/config/licence_p.h"
 #include "telecfg/config/parametertable.h"
+#include "telecfg/config/parametertraits_p.h"
 #include "telecfg/controls/boundcontrol.h"
+#include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/form/formstate.h"
 
 #include <QHash>
@@ -24,6 +26,15 @@ struct Binding
     QList<QPointer<QWidget>> related;
 };
 
+// A part of a bound control (the list of a list editor, say) is bound by its owner.
+bool insideBoundControl(const QWidget *widget)
+{
+    for (const QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+        if (BoundKind::find(parent))
+            return true;
+    return false;
+}
+
 QString versionKeyText(const MainConfigObject &record)
 {
     return record.versionKey == 0 ? QStringLiteral("key 0")
@@ -38,6 +49,7 @@ struct FormBinder::Private
     QHash<int, QList<int>> byRef;
     MainConfigIFace *iface = nullptr;
     int lastHardwareId = 0;
+    bool reportUnnamed = false;
     std::unique_ptr<FormState> ownState;
     QPointer<FormState> state;
     QList<QMetaObject::Connection> following;
@@ -72,6 +84,11 @@ QString FormBinder::Problem::text() const
         return QStringLiteral("%1: no such parameter").arg(objectName);
     case NotABoundControl:
         return QStringLiteral("%1: not a bound control").arg(objectName);
+    case NotAChoice:
+        return QStringLiteral("%1: the record's type does not check a radio button")
+            .arg(objectName);
+    case Unnamed:
+        return QStringLiteral("%1: a bound control without a cfg_ name").arg(objectName);
     case BadNumber:
         break;
     }
@@ -113,8 +130,11 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
     const QList<QWidget *> widgets = form->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         const QString name = widget->objectName();
-        if (!name.startsWith(QLatin1String("cfg_")))
+        if (!name.startsWith(QLatin1String("cfg_"))) {
+            if (d->reportUnnamed && BoundKind::find(widget) && !insideBoundControl(widget))
+                problems.append({name, 0, Problem::Unnamed});
             continue;
+        }
         const QRegularExpressionMatch match = pattern.match(name);
         const int ref = match.hasMatch() ? match.captured(1).toInt() : 0;
         if (!match.hasMatch()) {
@@ -138,6 +158,9 @@ QList<FormBinder::Problem> FormBinder::bind(QWidget *form, MainConfigIFace *tabl
             problems.append({widget->objectName(), ref, Problem::NotABoundControl});
             continue;
         }
+        if (qobject_cast<CfgRadioButton *>(widget) &&
+            !ParameterTraits::of(table->object(ref).type).choice)
+            problems.append({widget->objectName(), ref, Problem::NotAChoice});
         for (QLabel *label : labels) {
             if (label->buddy() == widget) {
                 binding.label = label;
@@ -159,6 +182,11 @@ void FormBinder::rebind()
     for (const Binding &binding : std::as_const(d->bindings))
         if (binding.control)
             d->load(binding);
+}
+
+void FormBinder::setReportUnnamed(bool report)
+{
+    d->reportUnnamed = report;
 }
 
 void FormBinder::follow(FormState *state)

@@ -46,6 +46,8 @@ public:
             NoSuchParameter,  ///< the table has no parameter of that number
             NotABoundControl, ///< the widget is no bound control
             BadNumber,        ///< what follows "cfg_" is no parameter number
+            NotAChoice,       ///< a radio button's record is of no type that checks it
+            Unnamed,          ///< a bound control without a `cfg_` name (setReportUnnamed())
         };
         /// The widget's object name.
         QString objectName;
@@ -73,6 +75,11 @@ public:
     ///         every `cfg_` name bound.
     QList<Problem> bind(QWidget *form, MainConfigIFace *table,
                         std::function<bool(int)> exists = {});
+    /// Whether bind() also reports bound controls whose object name does not start with
+    /// `cfg_` (a control left with the name Designer gave it stays unbound). Off by default:
+    /// a host may bind some controls itself.
+    /// @param report true to report them as Problem::Unnamed.
+    void setReportUnnamed(bool report);
     /// Binds every control again: binding is what loads a value into a control. A binder that
     /// follows a FormState does it by itself; without one, a host calls this after it replaced
     /// values behind the controls' back (a revert, a load).
