@@ -6,6 +6,7 @@
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "tests/support/anycontrol.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -33,47 +34,30 @@ private slots:
 
 void TestCachingItemDelegate::looksAsStock_data()
 {
-    QTest::addColumn<QString>("setup");
-    QTest::addColumn<QString>("change"); // made after the pixmaps were kept
-    QTest::addColumn<bool>("kept");      // whether the rows can be kept at all
+    // change: made after the pixmaps were kept
+    // kept: whether the rows can be kept at all
+    columns<QString, QString, bool>("setup", "change", "kept");
 
-    QTest::newRow("unpainted") << ""
-                               << "" << true;
-    QTest::newRow("four states") << "paint"
-                                 << "" << true;
-    QTest::newRow("current") << "paint current"
-                             << "" << true;
-    QTest::newRow("focused") << "paint current focus"
-                             << "" << true;
-    QTest::newRow("hovered") << "paint hover"
-                             << "" << true;
-    QTest::newRow("disabled") << "paint disabled"
-                              << "" << true;
-    QTest::newRow("elided") << "paint narrow"
-                            << "" << true;
-    QTest::newRow("alternating") << "alternate"
-                                 << "" << true;
-    QTest::newRow("right to left") << "paint rtl"
-                                   << "" << true;
-    QTest::newRow("palette changed") << "paint current"
-                                     << "palette" << true;
-    QTest::newRow("font changed") << "paint"
-                                  << "font" << true;
-    QTest::newRow("style sheet") << "paint"
-                                 << "sheet" << true;
-    QTest::newRow("state changed") << "paint"
-                                   << "invalid" << true;
-    QTest::newRow("icons") << "paint icon"
-                           << "" << false;
-    QTest::newRow("see-through viewport") << "paint unfilled"
-                                          << "" << false;
+    row("unpainted", "", "", true);
+    row("four states", "paint", "", true);
+    row("current", "paint current", "", true);
+    row("focused", "paint current focus", "", true);
+    row("hovered", "paint hover", "", true);
+    row("disabled", "paint disabled", "", true);
+    row("elided", "paint narrow", "", true);
+    row("alternating", "alternate", "", true);
+    row("right to left", "paint rtl", "", true);
+    row("palette changed", "paint current", "palette", true);
+    row("font changed", "paint", "font", true);
+    row("style sheet", "paint", "sheet", true);
+    row("state changed", "paint", "invalid", true);
+    row("icons", "paint icon", "", false);
+    row("see-through viewport", "paint unfilled", "", false);
 }
 
 void TestCachingItemDelegate::looksAsStock()
 {
-    QFETCH(QString, setup);
-    QFETCH(QString, change);
-    QFETCH(bool, kept);
+    auto [setup, change, kept] = fetch<QString, QString, bool>("setup", "change", "kept");
 
     TestHost host;
     host.add(ref, 20,

@@ -5,6 +5,7 @@
 #include "tests/collections/collectiontest.h"
 #include "tests/support/anycontrol.h"
 #include "tests/support/contexttranslator.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -95,17 +96,10 @@ void TestCfgListWidget::selectionChangeConnectionFails()
 
 void TestCfgListWidget::operations_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVariantList>("stored");
-    QTest::addColumn<QVariant>("names");
+    columns<int, QVariant, QVariantList, QVariant>("type", "value", "stored", "names");
     // "" binding only, "add", "remove" (row 0), "all", "edit" or "edit removed" (row 0)
-    QTest::addColumn<QString>("op");
-    QTest::addColumn<QVariant>("input");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<QString>("items");
-    QTest::addColumn<QVariant>("after");
-    QTest::addColumn<int>("writes");
+    columns<QString, QVariant, int, QString, QVariant, int>("op", "input", "result", "items",
+                                                            "after", "writes");
 
     const QVariant none;
     const QVariantList no;
@@ -113,64 +107,47 @@ void TestCfgListWidget::operations_data()
     const QVariant named = QVariant::fromValue(QList<NamedUInt>{{7, QString()}, {9, "Dziewięć"}});
     const QVariant v24 = vec<quint32>({7, 0, 9});
     const QVariant v20 = vec<QByteArray>({{"AB\0C", 4}, QByteArray(4, '\0'), "", "12"});
-    QTest::newRow("24, names") << 24 << v24 << no << named << "" << none << 0
-                               << "Nieznana wartość (7)@0|Dziewięć@2" << v24 << 0;
-    QTest::newRow("20") << 20 << v20 << no << none << "" << none << 0 << "AB@0|12@3" << v20 << 0;
-    QTest::newRow("add, middle place")
-        << 24 << vec<quint32>({4, 0, 6}) << no << none << "add" << QVariant(5u) << 0
-        << "4@0|6@2|5@1" << vec<quint32>({4, 5, 6}) << 1;
-    QTest::newRow("add by name") << 8 << u16 << no
-                                 << QVariant::fromValue(QList<NamedUShort>{{5, "Pięć"}}) << "add"
-                                 << QVariant("Pięć") << 0 << "Nieznana wartość (6)@0|Pięć@1"
-                                 << vec<quint16>({6, 5}) << 1;
+    row("24, names", 24, v24, no, named, "", none, 0, "Nieznana wartość (7)@0|Dziewięć@2", v24, 0);
+    row("20", 20, v20, no, none, "", none, 0, "AB@0|12@3", v20, 0);
+    row("add, middle place", 24, vec<quint32>({4, 0, 6}), no, none, "add", QVariant(5u), 0,
+        "4@0|6@2|5@1", vec<quint32>({4, 5, 6}), 1);
+    row("add by name", 8, u16, no, QVariant::fromValue(QList<NamedUShort>{{5, "Pięć"}}), "add",
+        QVariant("Pięć"), 0, "Nieznana wartość (6)@0|Pięć@1", vec<quint16>({6, 5}), 1);
     // A record whose name list is empty takes a number as it is.
-    QTest::newRow("add, no names")
-        << 24 << vec<quint32>({0, 0}) << no << QVariant::fromValue(QList<NamedUInt>{}) << "add"
-        << QVariant(5u) << 0 << "5@0" << vec<quint32>({5, 0}) << 1;
+    row("add, no names", 24, vec<quint32>({0, 0}), no, QVariant::fromValue(QList<NamedUInt>{}),
+        "add", QVariant(5u), 0, "5@0", vec<quint32>({5, 0}), 1);
     // A full list of short numbers refuses an add without a trace.
-    QTest::newRow("add, 8 full") << 8 << vec<quint16>({1, 2, 3}) << no << none << "add"
-                                 << QVariant(5u) << 0 << "1@0|2@1|3@2" << vec<quint16>({1, 2, 3})
-                                 << 0;
-    QTest::newRow("add, duplicate") << 13 << vec<QString>({"a", ""}) << no << none << "add"
-                                    << QVariant("a") << 1 << "a@0" << vec<QString>({"a", ""}) << 0;
+    row("add, 8 full", 8, vec<quint16>({1, 2, 3}), no, none, "add", QVariant(5u), 0, "1@0|2@1|3@2",
+        vec<quint16>({1, 2, 3}), 0);
+    row("add, duplicate", 13, vec<QString>({"a", ""}), no, none, "add", QVariant("a"), 1, "a@0",
+        vec<QString>({"a", ""}), 0);
     // A present element never changes in place: the edit goes back and stores the same.
-    QTest::newRow("edit") << 13 << vec<QString>({"a", "b", ""}) << no << none << "edit"
-                          << QVariant("z") << 0 << "a@0|b@1" << vec<QString>({"a", "b", ""}) << 1;
-    QTest::newRow("edit, bytes") << 20 << vec<QByteArray>({"ab", "", ""}) << no << none << "edit"
-                                 << QVariant("zz") << 0 << "ab@0" << vec<QByteArray>({"ab", "", ""})
-                                 << 1;
+    row("edit", 13, vec<QString>({"a", "b", ""}), no, none, "edit", QVariant("z"), 0, "a@0|b@1",
+        vec<QString>({"a", "b", ""}), 1);
+    row("edit, bytes", 20, vec<QByteArray>({"ab", "", ""}), no, none, "edit", QVariant("zz"), 0,
+        "ab@0", vec<QByteArray>({"ab", "", ""}), 1);
     // A removed item edited to a new text comes back with it.
-    QTest::newRow("edit removed") << 24 << vec<quint32>({55, 66, 0}) << QVariantList{55u} << none
-                                  << "edit removed" << QVariant("17") << 0 << "17@0|66@1"
-                                  << vec<quint32>({17, 66, 0}) << 2;
+    row("edit removed", 24, vec<quint32>({55, 66, 0}), QVariantList{55u}, none, "edit removed",
+        QVariant("17"), 0, "17@0|66@1", vec<quint32>({17, 66, 0}), 2);
     // An element cleared by an earlier item is not written back by a later kept one.
-    QTest::newRow("remove all, 8") << 8 << vec<quint16>({1, 2}) << QVariantList{2} << none << "all"
-                                   << none << 1 << "2@~1" << vec<quint16>({0, 0}) << 2;
-    QTest::newRow("no room left") << 24 << vec<quint32>({1, 2, 3}) << no << none << "remove" << none
-                                  << 0 << "2@1|3@2" << vec<quint32>({0, 2, 3}) << 1;
-    QTest::newRow("13 never kept")
-        << 13 << vec<QString>({"a", "b"}) << QVariantList{"a"} << none << "remove" << none << 1
-        << "b@1" << vec<QString>({"", "b"}) << 1;
-    QTest::newRow("29 kept") << 29 << vec<quint32>({266243, 0}) << QVariantList{266243u} << none
-                             << "remove" << none << 1 << network + "@~0" << vec<quint32>({0, 0})
-                             << 1;
-    QTest::newRow("20 kept") << 20 << vec<QByteArray>({"ab", "cd"})
-                             << QVariantList{QByteArray("ab")} << none << "remove" << none << 1
-                             << "ab@~0|cd@1" << vec<QByteArray>({"", "cd"}) << 1;
+    row("remove all, 8", 8, vec<quint16>({1, 2}), QVariantList{2}, none, "all", none, 1, "2@~1",
+        vec<quint16>({0, 0}), 2);
+    row("no room left", 24, vec<quint32>({1, 2, 3}), no, none, "remove", none, 0, "2@1|3@2",
+        vec<quint32>({0, 2, 3}), 1);
+    row("13 never kept", 13, vec<QString>({"a", "b"}), QVariantList{"a"}, none, "remove", none, 1,
+        "b@1", vec<QString>({"", "b"}), 1);
+    row("29 kept", 29, vec<quint32>({266243, 0}), QVariantList{266243u}, none, "remove", none, 1,
+        network + "@~0", vec<quint32>({0, 0}), 1);
+    row("20 kept", 20, vec<QByteArray>({"ab", "cd"}), QVariantList{QByteArray("ab")}, none,
+        "remove", none, 1, "ab@~0|cd@1", vec<QByteArray>({"", "cd"}), 1);
 }
 
 void TestCfgListWidget::operations()
 {
-    QFETCH(int, type);
-    QFETCH(QVariant, value);
-    QFETCH(QVariantList, stored);
-    QFETCH(QVariant, names);
-    QFETCH(QString, op);
-    QFETCH(QVariant, input);
-    QFETCH(int, result);
-    QFETCH(QString, items);
-    QFETCH(QVariant, after);
-    QFETCH(int, writes);
+    auto [type, value, stored, names, op, input, result, items, after, writes] =
+        fetch<int, QVariant, QVariantList, QVariant, QString, QVariant, int, QString, QVariant,
+              int>("type", "value", "stored", "names", "op", "input", "result", "items", "after",
+                   "writes");
 
     Bound b(type, value, op == "remove" || op == "all" ? 2 : 3, stored, names);
     b.host.modifiedItemsOf[ref] = {1};
@@ -232,27 +209,24 @@ void TestCfgListWidget::greyItems()
 // only what the list did itself.
 void TestCfgListWidget::outsideChanges_data()
 {
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<QString>("paint");
-    QTest::addColumn<int>("addSeven"); // what adding 7 then returns
+    // addSeven: what adding 7 then returns
+    columns<QString, QString, int>("change", "paint", "addSeven");
 
     const QString red = QStringLiteral("#ff0000 Nieprawidłowy element");
-    QTest::newRow("host's lists") << "invalid" << white + '|' + red + '|' + white << 0;
-    QTest::newRow("brush by host") << "brush" << white + '|' + white + '|' + white << 0;
-    QTest::newRow("place by host") << "place" << white + '|' + white + '|' + grey << 0;
-    QTest::newRow("text by host") << "text" << white + '|' + white + '|' + white << 1;
-    QTest::newRow("language") << "language"
-                              << "#ffffff [CfgListWidget]Istniejący element|#ffffff "
-                                 "[CfgListWidget]Istniejący element|#ffffff "
-                                 "[CfgListWidget]Istniejący element"
-                              << 0;
+    row("host's lists", "invalid", white + '|' + red + '|' + white, 0);
+    row("brush by host", "brush", white + '|' + white + '|' + white, 0);
+    row("place by host", "place", white + '|' + white + '|' + grey, 0);
+    row("text by host", "text", white + '|' + white + '|' + white, 1);
+    row("language", "language",
+        "#ffffff [CfgListWidget]Istniejący element|#ffffff "
+        "[CfgListWidget]Istniejący element|#ffffff "
+        "[CfgListWidget]Istniejący element",
+        0);
 }
 
 void TestCfgListWidget::outsideChanges()
 {
-    QFETCH(QString, change);
-    QFETCH(QString, paint);
-    QFETCH(int, addSeven);
+    auto [change, paint, addSeven] = fetch<QString, QString, int>("change", "paint", "addSeven");
 
     Bound b(24, vec<quint32>({1, 2, 3, 0}), 4);
     b.list.updateControl(0);
@@ -278,31 +252,25 @@ void TestCfgListWidget::outsideChanges()
 
 void TestCfgListWidget::neverCrash_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("capacity");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("index"); // for setValue
-    QTest::addColumn<QVariant>("input");
-    QTest::addColumn<QString>("items"); // after the add, which writes nothing
+    // index: for setValue
+    // items: after the add, which writes nothing
+    columns<int, int, QVariant, int, QVariant, QString>("type", "capacity", "value", "index",
+                                                        "input", "items");
 
     const QVariant ab = vec<QString>({"a", ""});
-    QTest::newRow("index past the end")
-        << 24 << 2 << vec<quint32>({1, 2}) << 2 << QVariant(5u) << "1@0|2@1|5@-";
-    QTest::newRow("index -1") << 13 << 1 << vec<QString>({"a"}) << -1 << QVariant("b") << "a@0|b@-";
-    QTest::newRow("capacity 0") << 13 << 0 << ab << 5 << QVariant("b") << "a@0";
-    QTest::newRow("wrong container") << 8 << 2 << vec<quint32>({1, 2}) << 0 << QVariant(5u) << "";
-    QTest::newRow("unknown type") << 5 << 2 << vec<quint32>({1, 2}) << 0 << QVariant(5u) << "";
-    QTest::newRow("invalid input") << 13 << 2 << ab << 2 << QVariant() << "a@0";
+    row("index past the end", 24, 2, vec<quint32>({1, 2}), 2, QVariant(5u), "1@0|2@1|5@-");
+    row("index -1", 13, 1, vec<QString>({"a"}), -1, QVariant("b"), "a@0|b@-");
+    row("capacity 0", 13, 0, ab, 5, QVariant("b"), "a@0");
+    row("wrong container", 8, 2, vec<quint32>({1, 2}), 0, QVariant(5u), "");
+    row("unknown type", 5, 2, vec<quint32>({1, 2}), 0, QVariant(5u), "");
+    row("invalid input", 13, 2, ab, 2, QVariant(), "a@0");
 }
 
 void TestCfgListWidget::neverCrash()
 {
-    QFETCH(int, type);
-    QFETCH(int, capacity);
-    QFETCH(QVariant, value);
-    QFETCH(int, index);
-    QFETCH(QVariant, input);
-    QFETCH(QString, items);
+    auto [type, capacity, value, index, input, items] =
+        fetch<int, int, QVariant, int, QVariant, QString>("type", "capacity", "value", "index",
+                                                          "input", "items");
 
     TestHost host;
     host.add(ref, type, value).capacity = capacity;

@@ -3,6 +3,7 @@
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "tests/collections/collectiontest.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -82,34 +83,27 @@ private slots:
 
 void TestCfgTableWidget::binding_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("capacity");
-    QTest::addColumn<QString>("titles");
-    QTest::addColumn<Grid>("grid");
+    columns<QVariant, int, QString, Grid>("value", "capacity", "titles", "grid");
 
     const QString two = QStringLiteral("Poziom|Objętość");
-    QTest::newRow("two rows") << table({"1|2|", "10|20|"}) << 3 << two << Grid{"1|10", "2|20"};
-    QTest::newRow("generated titles") << table({"1", "10", "x", "y"}) << 1
-                                      << "Poziom|Objętość|Kolumna 3|Kolumna 4" << Grid{"1|10|x|y"};
+    row("two rows", table({"1|2|", "10|20|"}), 3, two, Grid{"1|10", "2|20"});
+    row("generated titles", table({"1", "10", "x", "y"}), 1, "Poziom|Objętość|Kolumna 3|Kolumna 4",
+        Grid{"1|10|x|y"});
     // Deliberate: a free place before a used one leaves the used row past the row count.
-    QTest::newRow("free place first") << table({"|2", "|20"}) << 2 << two << Grid{"-|"};
+    row("free place first", table({"|2", "|20"}), 2, two, Grid{"-|"});
     // Wrong shapes show what fits, and nothing done on them afterwards crashes.
     // An identifier of zero bytes is a free place, as an empty one.
-    QTest::newRow("zero-byte identifier")
-        << table({"1|" + QString(2, QChar(0)), "10|x"}) << 2 << two << Grid{"1|10"};
-    QTest::newRow("short column") << table({"1|2", "10"}) << 2 << two << Grid{"1|10", "2|-"};
-    QTest::newRow("wrong container")
-        << QVariant::fromValue(QVector<quint32>{1}) << 1 << two << Grid{};
-    QTest::newRow("capacity 0") << table({"1", "10"}) << 0 << two << Grid{};
+    row("zero-byte identifier", table({"1|" + QString(2, QChar(0)), "10|x"}), 2, two, Grid{"1|10"});
+    row("short column", table({"1|2", "10"}), 2, two, Grid{"1|10", "2|-"});
+    row("wrong container", QVariant::fromValue(QVector<quint32>{1}), 1, two, Grid{});
+    row("capacity 0", table({"1", "10"}), 0, two, Grid{});
 }
 
 void TestCfgTableWidget::binding()
 {
     QFETCH(QVariant, value);
     const int columns = qMax(2, qvariant_cast<ColumnVectors>(value).size()); // shown, filled
-    QFETCH(int, capacity);
-    QFETCH(QString, titles);
-    QFETCH(Grid, grid);
+    auto [capacity, titles, grid] = fetch<int, QString, Grid>("capacity", "titles", "grid");
 
     Bound b(value, capacity, {QByteArray("1")}, columns, columns);
     b.table.setRowCount(5);
@@ -130,16 +124,13 @@ void TestCfgTableWidget::binding()
 
 void TestCfgTableWidget::addEditRemove_data()
 {
-    QTest::addColumn<QStringList>("value");
-    QTest::addColumn<int>("capacity");
-    QTest::addColumn<QVariantList>("stored");
+    columns<QStringList, int, QVariantList>("value", "capacity", "stored");
     // (column, row) edited or removed; (-1, -1): an add; (-1, row): an add while the first
     // cell of that row is current
-    QTest::addColumn<QPoint>("cell");
-    QTest::addColumn<QVariant>("input"); // "remove" the cell, "remove row" its whole row
-    QTest::addColumn<Grid>("grid");
-    QTest::addColumn<QStringList>("after"); // empty: nothing written
-    QTest::addColumn<QString>("message");
+    // input: "remove" the cell, "remove row" its whole row
+    // after: empty: nothing written
+    columns<QPoint, QVariant, Grid, QStringList, QString>("cell", "input", "grid", "after",
+                                                          "message");
 
     const QPoint add(-1, -1);
     const QVariantList no;
@@ -147,56 +138,43 @@ void TestCfgTableWidget::addEditRemove_data()
     const QStringList two{"1|2", "10|20"};
     const QStringList three{"1|2|", "10|20|"};
     const Grid same{"1|10", "2|20"};
-    QTest::newRow("first free place")
-        << three << 3 << no << add << row3 << Grid{"1|10", "2|20", "3|30"}
-        << QStringList{"1|2|3", "10|20|30"} << "";
+    row("first free place", three, 3, no, add, row3, Grid{"1|10", "2|20", "3|30"},
+        QStringList{"1|2|3", "10|20|30"}, "");
     // Deliberate: while place 1 is empty every add takes place 0.
-    QTest::newRow("place 1 empty") << QStringList{"1||", "10||"} << 3 << no << add << row3
-                                   << Grid{"3|30", "-|-"} << QStringList{"3||", "30||"} << "";
-    QTest::newRow("full") << two << 2 << no << add << row3 << same << two << "";
-    QTest::newRow("duplicate in a later column")
-        << three << 3 << no << add << QVariant(QStringList{"20", "5"}) << same << QStringList{}
-        << "Identyfikator jest już używany";
-    QTest::newRow("capacity 0") << QStringList{"", ""} << 0 << no << add << row3 << Grid{}
-                                << QStringList{"", ""} << "";
-    QTest::newRow("invalid") << QStringList{"1|", "10|"} << 2 << no << add << QVariant()
-                             << Grid{"1|10"} << QStringList{} << "";
+    row("place 1 empty", QStringList{"1||", "10||"}, 3, no, add, row3, Grid{"3|30", "-|-"},
+        QStringList{"3||", "30||"}, "");
+    row("full", two, 2, no, add, row3, same, two, "");
+    row("duplicate in a later column", three, 3, no, add, QVariant(QStringList{"20", "5"}), same,
+        QStringList{}, "Identyfikator jest już używany");
+    row("capacity 0", QStringList{"", ""}, 0, no, add, row3, Grid{}, QStringList{"", ""}, "");
+    row("invalid", QStringList{"1|", "10|"}, 2, no, add, QVariant(), Grid{"1|10"}, QStringList{},
+        "");
     // The edit check that ends every add stores the current cell again.
-    QTest::newRow("invalid, a cell current")
-        << QStringList{"1|", "10|"} << 2 << no << QPoint(-1, 0) << QVariant() << Grid{"1|10"}
-        << QStringList{"1|", "10|"} << "";
+    row("invalid, a cell current", QStringList{"1|", "10|"}, 2, no, QPoint(-1, 0), QVariant(),
+        Grid{"1|10"}, QStringList{"1|", "10|"}, "");
     // Off the diagonal, so a row and column mixed up show.
-    QTest::newRow("edit") << two << 2 << no << QPoint(1, 0) << QVariant("15")
-                          << Grid{"1|15", "2|20"} << QStringList{"1|2", "15|20"} << "";
-    QTest::newRow("edit, text of another column")
-        << two << 2 << no << QPoint(1, 0) << QVariant("2") << same << QStringList{}
-        << "Identyfikator jest już używany";
-    QTest::newRow("edit, emptied later column")
-        << two << 2 << no << QPoint(1, 1) << QVariant("") << same << QStringList{}
-        << "Identyfikator nie może być pusty";
+    row("edit", two, 2, no, QPoint(1, 0), QVariant("15"), Grid{"1|15", "2|20"},
+        QStringList{"1|2", "15|20"}, "");
+    row("edit, text of another column", two, 2, no, QPoint(1, 0), QVariant("2"), same,
+        QStringList{}, "Identyfikator jest już używany");
+    row("edit, emptied later column", two, 2, no, QPoint(1, 1), QVariant(""), same, QStringList{},
+        "Identyfikator nie może być pusty");
     const QStringList gone{"|2", "|20"};
-    QTest::newRow("remove, stored row greys")
-        << two << 2 << QVariantList{QByteArray("1")} << QPoint(1, 0) << QVariant("remove") << same
-        << gone << "";
+    row("remove, stored row greys", two, 2, QVariantList{QByteArray("1")}, QPoint(1, 0),
+        QVariant("remove"), same, gone, "");
     // Several cells of one row: the row goes once, its other cells are skipped.
-    QTest::newRow("remove row") << two << 2 << no << QPoint(0, 0) << QVariant("remove row")
-                                << Grid{"2|20"} << gone << "";
+    row("remove row", two, 2, no, QPoint(0, 0), QVariant("remove row"), Grid{"2|20"}, gone, "");
     // Deliberate: a place at or above the column count goes without asking the host.
-    QTest::newRow("remove beyond column count")
-        << QStringList{"1|2|3", "10|20|30"} << 3 << QVariantList{QByteArray("3")} << QPoint(0, 2)
-        << QVariant("remove") << same << QStringList{"1|2|", "10|20|"} << "";
+    row("remove beyond column count", QStringList{"1|2|3", "10|20|30"}, 3,
+        QVariantList{QByteArray("3")}, QPoint(0, 2), QVariant("remove"), same,
+        QStringList{"1|2|", "10|20|"}, "");
 }
 
 void TestCfgTableWidget::addEditRemove()
 {
-    QFETCH(QStringList, value);
-    QFETCH(int, capacity);
-    QFETCH(QVariantList, stored);
-    QFETCH(QPoint, cell);
-    QFETCH(QVariant, input);
-    QFETCH(Grid, grid);
-    QFETCH(QStringList, after);
-    QFETCH(QString, message);
+    auto [value, capacity, stored, cell, input, grid, after, message] =
+        fetch<QStringList, int, QVariantList, QPoint, QVariant, Grid, QStringList, QString>(
+            "value", "capacity", "stored", "cell", "input", "grid", "after", "message");
 
     Bound b(table(value), capacity, stored);
     ModalCatcher catcher;

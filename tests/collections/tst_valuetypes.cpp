@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/valuetypes.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QtTest>
@@ -20,26 +21,21 @@ private slots:
 
 void TestValueTypes::containersByName_data()
 {
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("id");
+    columns<QByteArray, int>("name", "id");
 
-    QTest::newRow("u16") << QByteArray("QVector<quint16>") << qMetaTypeId<QVector<quint16>>();
-    QTest::newRow("u32") << QByteArray("QVector<quint32>") << qMetaTypeId<QVector<quint32>>();
-    QTest::newRow("str") << QByteArray("QVector<QString>") << qMetaTypeId<QVector<QString>>();
-    QTest::newRow("bytes") << QByteArray("QVector<QByteArray>")
-                           << qMetaTypeId<QVector<QByteArray>>();
-    QTest::newRow("columns") << QByteArray("QVector<QVector<QByteArray> >")
-                             << qMetaTypeId<ColumnVectors>();
-    QTest::newRow("uints") << QByteArray("QList<uint>") << qMetaTypeId<QList<uint>>();
-    QTest::newRow("named u16") << QByteArray("QList<NamedUShort>")
-                               << qMetaTypeId<QList<NamedUShort>>();
-    QTest::newRow("named u32") << QByteArray("QList<NamedUInt>") << qMetaTypeId<QList<NamedUInt>>();
+    row("u16", QByteArray("QVector<quint16>"), qMetaTypeId<QVector<quint16>>());
+    row("u32", QByteArray("QVector<quint32>"), qMetaTypeId<QVector<quint32>>());
+    row("str", QByteArray("QVector<QString>"), qMetaTypeId<QVector<QString>>());
+    row("bytes", QByteArray("QVector<QByteArray>"), qMetaTypeId<QVector<QByteArray>>());
+    row("columns", QByteArray("QVector<QVector<QByteArray> >"), qMetaTypeId<ColumnVectors>());
+    row("uints", QByteArray("QList<uint>"), qMetaTypeId<QList<uint>>());
+    row("named u16", QByteArray("QList<NamedUShort>"), qMetaTypeId<QList<NamedUShort>>());
+    row("named u32", QByteArray("QList<NamedUInt>"), qMetaTypeId<QList<NamedUInt>>());
 }
 
 void TestValueTypes::containersByName()
 {
-    QFETCH(QByteArray, name);
-    QFETCH(int, id);
+    auto [name, id] = fetch<QByteArray, int>("name", "id");
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     QCOMPARE(QMetaType::fromName(name).id(), id);
@@ -65,20 +61,17 @@ void TestValueTypes::qtFoldsVectorsIntoLists()
 
 void TestValueTypes::networkText_data()
 {
-    QTest::addColumn<quint32>("id");
-    QTest::addColumn<QString>("text");
+    columns<quint32, QString>("id", "text");
 
-    QTest::newRow("country and operator")
-        << quint32(266243) << "260003 Polska Orange / PTK Centertel Sp. z o.o.";
-    QTest::newRow("all operators") << quint32((260u << 10) | 998u) << "260998 Polska Wszystkie";
-    QTest::newRow("small number padded") << quint32(5) << "000005 Nieznany Nieznany";
-    QTest::newRow("country above 999") << quint32(1000u << 10) << "1000000 Nieznany Nieznany";
+    row("country and operator", quint32(266243), "260003 Polska Orange / PTK Centertel Sp. z o.o.");
+    row("all operators", quint32((260u << 10) | 998u), "260998 Polska Wszystkie");
+    row("small number padded", quint32(5), "000005 Nieznany Nieznany");
+    row("country above 999", quint32(1000u << 10), "1000000 Nieznany Nieznany");
 }
 
 void TestValueTypes::networkText()
 {
-    QFETCH(quint32, id);
-    QFETCH(QString, text);
+    auto [id, text] = fetch<quint32, QString>("id", "text");
     QCOMPARE(::networkText(id), text);
 }
 

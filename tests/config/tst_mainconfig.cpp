@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/config/mainconfig.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QtTest>
@@ -20,29 +21,22 @@ private slots:
 
 void TestMainConfig::versionRange_data()
 {
-    QTest::addColumn<VersionMap>("minVersions");
-    QTest::addColumn<VersionMap>("maxVersions");
-    QTest::addColumn<int>("versionKey");
-    QTest::addColumn<int>("expectedMin");
-    QTest::addColumn<int>("expectedMax");
+    columns<VersionMap, VersionMap, int, int, int>("minVersions", "maxVersions", "versionKey",
+                                                   "expectedMin", "expectedMax");
 
-    QTest::newRow("both empty") << VersionMap() << VersionMap() << 5 << 99 << 0;
-    QTest::newRow("key found") << VersionMap{{5, 12}, {0, 3}} << VersionMap{{5, 40}, {0, 50}} << 5
-                               << 12 << 40;
-    QTest::newRow("key 0 fallback") << VersionMap{{0, 3}} << VersionMap{{0, 50}} << 5 << 3 << 50;
-    QTest::newRow("mixed: min by key, max by 0")
-        << VersionMap{{7, 8}} << VersionMap{{0, 30}} << 7 << 8 << 30;
-    QTest::newRow("other keys ignored")
-        << VersionMap{{1, 8}} << VersionMap{{1, 30}} << 7 << 99 << 0;
-    QTest::newRow("stored max 0") << VersionMap{{0, 1}} << VersionMap{{0, 0}} << 0 << 1 << 0;
-    QTest::newRow("negative key") << VersionMap{{-1, 4}} << VersionMap{{-1, 9}} << -1 << 4 << 9;
+    row("both empty", VersionMap(), VersionMap(), 5, 99, 0);
+    row("key found", VersionMap{{5, 12}, {0, 3}}, VersionMap{{5, 40}, {0, 50}}, 5, 12, 40);
+    row("key 0 fallback", VersionMap{{0, 3}}, VersionMap{{0, 50}}, 5, 3, 50);
+    row("mixed: min by key, max by 0", VersionMap{{7, 8}}, VersionMap{{0, 30}}, 7, 8, 30);
+    row("other keys ignored", VersionMap{{1, 8}}, VersionMap{{1, 30}}, 7, 99, 0);
+    row("stored max 0", VersionMap{{0, 1}}, VersionMap{{0, 0}}, 0, 1, 0);
+    row("negative key", VersionMap{{-1, 4}}, VersionMap{{-1, 9}}, -1, 4, 9);
 }
 
 void TestMainConfig::versionRange()
 {
-    QFETCH(VersionMap, minVersions);
-    QFETCH(VersionMap, maxVersions);
-    QFETCH(int, versionKey);
+    auto [minVersions, maxVersions, versionKey] =
+        fetch<VersionMap, VersionMap, int>("minVersions", "maxVersions", "versionKey");
     MainConfigObject object;
     object.minVersions = minVersions;
     object.maxVersions = maxVersions;

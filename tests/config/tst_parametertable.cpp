@@ -3,6 +3,7 @@
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/config/parametertable.h"
 #include "telecfg/config/parametertypes.h"
+#include "tests/support/datatable.h"
 
 #include <QtTest>
 
@@ -30,45 +31,36 @@ QByteArray tableWith(const QByteArray &parameter)
 
 void TestParameterTable::modified_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QVariant>("current");
-    QTest::addColumn<bool>("modified");
+    columns<QVariant, QVariant, bool>("stored", "current", "modified");
 
-    QTest::newRow("same int") << QVariant(400) << QVariant(400) << false;
-    QTest::newRow("other int") << QVariant(400) << QVariant(380) << true;
-    QTest::newRow("int and uint") << QVariant(7) << QVariant(7u) << false;
-    QTest::newRow("int flag and bool") << QVariant(1) << QVariant(true) << false;
-    QTest::newRow("bool and int 0") << QVariant(true) << QVariant(0) << true;
-    QTest::newRow("number and its text")
-        << QVariant(300) << QVariant(QStringLiteral("300")) << false;
-    QTest::newRow("double and whole text")
-        << QVariant(835.0) << QVariant(QStringLiteral("835")) << false;
-    QTest::newRow("texts") << QVariant(QStringLiteral("1234")) << QVariant(QStringLiteral("12345"))
-                           << true;
-    QTest::newRow("uint vectors equal") << QVariant::fromValue(QVector<quint32>{1, 2, 0})
-                                        << QVariant::fromValue(QVector<quint32>{1, 2, 0}) << false;
-    QTest::newRow("uint vectors differ") << QVariant::fromValue(QVector<quint32>{1, 2, 0})
-                                         << QVariant::fromValue(QVector<quint32>{1, 3, 0}) << true;
-    QTest::newRow("ushort vectors differ") << QVariant::fromValue(QVector<quint16>{5, 0})
-                                           << QVariant::fromValue(QVector<quint16>{0, 5}) << true;
-    QTest::newRow("byte arrays differ")
-        << QVariant::fromValue(QVector<QByteArray>{"A", ""})
-        << QVariant::fromValue(QVector<QByteArray>{"B", ""}) << true;
-    QTest::newRow("strings equal")
-        << QVariant::fromValue(QVector<QString>{QStringLiteral("x")})
-        << QVariant::fromValue(QVector<QString>{QStringLiteral("x")}) << false;
-    QTest::newRow("table cell differs")
-        << QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "20"}})
-        << QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "21"}}) << true;
-    QTest::newRow("table equal") << QVariant::fromValue(ColumnVectors{{"1"}, {"10"}})
-                                 << QVariant::fromValue(ColumnVectors{{"1"}, {"10"}}) << false;
+    row("same int", QVariant(400), QVariant(400), false);
+    row("other int", QVariant(400), QVariant(380), true);
+    row("int and uint", QVariant(7), QVariant(7u), false);
+    row("int flag and bool", QVariant(1), QVariant(true), false);
+    row("bool and int 0", QVariant(true), QVariant(0), true);
+    row("number and its text", QVariant(300), QVariant(QStringLiteral("300")), false);
+    row("double and whole text", QVariant(835.0), QVariant(QStringLiteral("835")), false);
+    row("texts", QVariant(QStringLiteral("1234")), QVariant(QStringLiteral("12345")), true);
+    row("uint vectors equal", QVariant::fromValue(QVector<quint32>{1, 2, 0}),
+        QVariant::fromValue(QVector<quint32>{1, 2, 0}), false);
+    row("uint vectors differ", QVariant::fromValue(QVector<quint32>{1, 2, 0}),
+        QVariant::fromValue(QVector<quint32>{1, 3, 0}), true);
+    row("ushort vectors differ", QVariant::fromValue(QVector<quint16>{5, 0}),
+        QVariant::fromValue(QVector<quint16>{0, 5}), true);
+    row("byte arrays differ", QVariant::fromValue(QVector<QByteArray>{"A", ""}),
+        QVariant::fromValue(QVector<QByteArray>{"B", ""}), true);
+    row("strings equal", QVariant::fromValue(QVector<QString>{QStringLiteral("x")}),
+        QVariant::fromValue(QVector<QString>{QStringLiteral("x")}), false);
+    row("table cell differs", QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "20"}}),
+        QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "21"}}), true);
+    row("table equal", QVariant::fromValue(ColumnVectors{{"1"}, {"10"}}),
+        QVariant::fromValue(ColumnVectors{{"1"}, {"10"}}), false);
 }
 
 void TestParameterTable::modified()
 {
-    QFETCH(QVariant, stored);
-    QFETCH(QVariant, current);
-    QFETCH(bool, modified);
+    auto [stored, current, modified] =
+        fetch<QVariant, QVariant, bool>("stored", "current", "modified");
     ParameterTable table;
     MainConfigObject record;
     record.value = stored;
@@ -82,53 +74,43 @@ void TestParameterTable::modified()
 
 void TestParameterTable::validity_data()
 {
-    QTest::addColumn<QByteArray>("parameter");
-    QTest::addColumn<bool>("valid");
-    QTest::addColumn<QList<int>>("invalidItems");
+    columns<QByteArray, bool, QList<int>>("parameter", "valid", "invalidItems");
 
     const QList<int> none;
-    QTest::newRow("in range")
-        << QByteArray(R"({"ref": 3, "value": 400, "rules": {"min": 10, "max": 1500}})") << true
-        << none;
-    QTest::newRow("above max")
-        << QByteArray(R"({"ref": 3, "value": 1501, "rules": {"min": 10, "max": 1500}})") << false
-        << none;
-    QTest::newRow("below min, text")
-        << QByteArray(R"({"ref": 3, "value": "9", "rules": {"min": 10}})") << false << none;
-    QTest::newRow("no number") << QByteArray(R"({"ref": 3, "value": "x", "rules": {"max": 10}})")
-                               << false << none;
-    QTest::newRow("too long") << QByteArray(
-                                     R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})")
-                              << false << none;
-    QTest::newRow("longest length")
-        << QByteArray(R"({"ref": 3, "value": "abc", "rules": {"maxLength": 3}})") << true << none;
-    QTest::newRow("pattern whole text")
-        << QByteArray(R"({"ref": 3, "value": "12345", "rules": {"pattern": "\\d{4}"}})") << false
-        << none;
-    QTest::newRow("pattern matches")
-        << QByteArray(R"({"ref": 3, "value": "1234", "rules": {"pattern": "\\d{4}"}})") << true
-        << none;
-    QTest::newRow("repeated list element")
-        << QByteArray(R"({"ref": 3, "type": 24, "capacity": 4, "value": [7, 8, 7]})") << false
-        << QList<int>{2};
-    QTest::newRow("free places repeat freely")
-        << QByteArray(
-               R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A", "\u0000", "\u0000"]})")
-        << true << none;
-    QTest::newRow("table cell no number")
-        << QByteArray(
-               R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[0, 0], [1, "x"]], "rules": {"numericCells": true}})")
-        << false << QList<int>{1};
-    QTest::newRow("repeated row identifier")
-        << QByteArray(R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[5, 0], [5, 1]]})")
-        << false << QList<int>{1};
+    row("in range", QByteArray(R"({"ref": 3, "value": 400, "rules": {"min": 10, "max": 1500}})"),
+        true, none);
+    row("above max", QByteArray(R"({"ref": 3, "value": 1501, "rules": {"min": 10, "max": 1500}})"),
+        false, none);
+    row("below min, text", QByteArray(R"({"ref": 3, "value": "9", "rules": {"min": 10}})"), false,
+        none);
+    row("no number", QByteArray(R"({"ref": 3, "value": "x", "rules": {"max": 10}})"), false, none);
+    row("too long", QByteArray(R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})"), false,
+        none);
+    row("longest length", QByteArray(R"({"ref": 3, "value": "abc", "rules": {"maxLength": 3}})"),
+        true, none);
+    row("pattern whole text",
+        QByteArray(R"({"ref": 3, "value": "12345", "rules": {"pattern": "\\d{4}"}})"), false, none);
+    row("pattern matches",
+        QByteArray(R"({"ref": 3, "value": "1234", "rules": {"pattern": "\\d{4}"}})"), true, none);
+    row("repeated list element",
+        QByteArray(R"({"ref": 3, "type": 24, "capacity": 4, "value": [7, 8, 7]})"), false,
+        QList<int>{2});
+    row("free places repeat freely",
+        QByteArray(R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A", "\u0000", "\u0000"]})"),
+        true, none);
+    row("table cell no number",
+        QByteArray(
+            R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[0, 0], [1, "x"]], "rules": {"numericCells": true}})"),
+        false, QList<int>{1});
+    row("repeated row identifier",
+        QByteArray(R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[5, 0], [5, 1]]})"),
+        false, QList<int>{1});
 }
 
 void TestParameterTable::validity()
 {
-    QFETCH(QByteArray, parameter);
-    QFETCH(bool, valid);
-    QFETCH(QList<int>, invalidItems);
+    auto [parameter, valid, invalidItems] =
+        fetch<QByteArray, bool, QList<int>>("parameter", "valid", "invalidItems");
     ParameterTable table;
     QString error;
     QVERIFY2(table.loadJson(tableWith(parameter), &error), qPrintable(error));
@@ -202,11 +184,10 @@ void TestParameterTable::jsonRoundTrip()
 void TestParameterTable::badJson_data()
 {
     QTest::addColumn<QByteArray>("json");
-    QTest::newRow("not json") << QByteArray("{\"version\": ");
-    QTest::newRow("an array") << QByteArray("[1, 2]");
-    QTest::newRow("reserved parameter") << tableWith(R"({"ref": 2, "value": 1})");
-    QTest::newRow("repeated parameter")
-        << tableWith(R"({"ref": 5, "value": 1}, {"ref": 5, "value": 2})");
+    row("not json", QByteArray("{\"version\": "));
+    row("an array", QByteArray("[1, 2]"));
+    row("reserved parameter", tableWith(R"({"ref": 2, "value": 1})"));
+    row("repeated parameter", tableWith(R"({"ref": 5, "value": 1}, {"ref": 5, "value": 2})"));
 }
 
 void TestParameterTable::badJson()

@@ -3,6 +3,7 @@
 // The protocol every bound control shares, run over every kind of control.
 #include "telecfg/dialogs/gui.h"
 #include "tests/support/anycontrol.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -66,8 +67,8 @@ private slots:
 
     void visibility_data()
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<int>("row"); // into visibilities
+        // row: into visibilities
+        columns<QString, int>("kind", "row");
         for (const QString &kind : anyControlKinds())
             for (int i = 0; i < int(std::size(visibilities)); ++i)
                 QTest::addRow("%s: %s", qPrintable(kind), visibilities[i].name) << kind << i;
@@ -75,8 +76,7 @@ private slots:
 
     void visibility()
     {
-        QFETCH(QString, kind);
-        QFETCH(int, row);
+        auto [kind, row] = fetch<QString, int>("kind", "row");
         const Visibility &c = visibilities[row];
         TestHost host;
         host.setVersion(c.version);
@@ -183,7 +183,7 @@ private:
     {
         QTest::addColumn<QString>("kind");
         for (const QString &kind : names)
-            QTest::newRow(qPrintable(kind)) << kind;
+            row(qPrintable(kind), kind);
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcheckbox.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -13,35 +14,26 @@ class TestCfgCheckBox : public TestCase
 private slots:
     void bindAndEdit_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("shown"); // checked after binding
-        QTest::addColumn<bool>("partialIsChecked");
-        QTest::addColumn<int>("state"); // then set by the user
-        QTest::addColumn<QVariant>("written");
+        // shown: checked after binding
+        // state: then set by the user
+        columns<int, QVariant, bool, bool, int, QVariant>("type", "value", "shown",
+                                                          "partialIsChecked", "state", "written");
 
-        QTest::newRow("bool off") << 1 << QVariant(true) << true << false << 0 << QVariant(false);
-        QTest::newRow("bool partial")
-            << 1 << QVariant(true) << true << false << 1 << QVariant(false);
-        QTest::newRow("bool partial on")
-            << 1 << QVariant(false) << false << true << 1 << QVariant(true);
-        QTest::newRow("7 partial on") << 22 << QVariant(7) << true << true << 1 << QVariant(1);
-        QTest::newRow("0 on") << 22 << QVariant(0) << false << false << 2 << QVariant(1);
-        QTest::newRow("text off") << 22 << QVariant("1") << true << true << 0 << QVariant(0);
-        QTest::newRow("text true")
-            << 0 << QVariant("true") << true << false << 1 << QVariant(false);
-        QTest::newRow("list") << 22 << QVariant(QStringList{"x"}) << false << false << 2
-                              << QVariant(1);
+        row("bool off", 1, QVariant(true), true, false, 0, QVariant(false));
+        row("bool partial", 1, QVariant(true), true, false, 1, QVariant(false));
+        row("bool partial on", 1, QVariant(false), false, true, 1, QVariant(true));
+        row("7 partial on", 22, QVariant(7), true, true, 1, QVariant(1));
+        row("0 on", 22, QVariant(0), false, false, 2, QVariant(1));
+        row("text off", 22, QVariant("1"), true, true, 0, QVariant(0));
+        row("text true", 0, QVariant("true"), true, false, 1, QVariant(false));
+        row("list", 22, QVariant(QStringList{"x"}), false, false, 2, QVariant(1));
     }
 
     void bindAndEdit()
     {
-        QFETCH(int, type);
-        QFETCH(QVariant, value);
-        QFETCH(bool, shown);
-        QFETCH(bool, partialIsChecked);
-        QFETCH(int, state);
-        QFETCH(QVariant, written);
+        auto [type, value, shown, partialIsChecked, state, written] =
+            fetch<int, QVariant, bool, bool, int, QVariant>("type", "value", "shown",
+                                                            "partialIsChecked", "state", "written");
 
         TestHost host;
         host.add(10, type, value).partialIsChecked = partialIsChecked;
@@ -58,9 +50,7 @@ private slots:
 
     void styleSheets_data()
     {
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<bool>("modified");
-        QTest::addColumn<QString>("sheet");
+        columns<bool, bool, QString>("enabled", "modified", "sheet");
 
         // The four indicator images of one look ("grey", "yellow_..._disabled", ...).
         auto sheet = [](const char *colour, const char *suffix, const char *sep) {
@@ -75,18 +65,16 @@ private slots:
                 colour, suffix, sep, colour, suffix, sep, sep);
         };
         const char *six = "\t\t\t\t\t\t  ";
-        QTest::newRow("enabled") << true << false << sheet("grey", "", six);
-        QTest::newRow("enabled modified") << true << true << sheet("yellow", "", six);
-        QTest::newRow("disabled") << false << false << sheet("grey", "_disabled", six);
-        QTest::newRow("disabled modified")
-            << false << true << sheet("yellow", "_disabled", "\t\t\t\t\t  ");
+        row("enabled", true, false, sheet("grey", "", six));
+        row("enabled modified", true, true, sheet("yellow", "", six));
+        row("disabled", false, false, sheet("grey", "_disabled", six));
+        row("disabled modified", false, true, sheet("yellow", "_disabled", "\t\t\t\t\t  "));
     }
 
     void styleSheets()
     {
-        QFETCH(bool, enabled);
-        QFETCH(bool, modified);
-        QFETCH(QString, sheet);
+        auto [enabled, modified, sheet] =
+            fetch<bool, bool, QString>("enabled", "modified", "sheet");
 
         TestHost host;
         host.add(10, 1, true);

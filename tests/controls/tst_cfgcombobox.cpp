@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgcombobox.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -38,31 +39,26 @@ class TestCfgComboBox : public TestCase
 private slots:
     void filling_data()
     {
-        QTest::addColumn<Options>("options");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QStringList>("texts");
-        QTest::addColumn<QStringList>("values");
-        QTest::addColumn<int>("current");
+        columns<Options, QVariant, QStringList, QStringList, int>("options", "value", "texts",
+                                                                  "values", "current");
 
-        QTest::newRow("contiguous")
-            << speeds() << QVariant("250") << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
-            << QStringList{"125", "250", "500"} << 1;
+        row("contiguous", speeds(), QVariant("250"),
+            QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}, QStringList{"125", "250", "500"},
+            1);
         QTest::newRow("value held as bytes finds its text") // on Qt 6 as on Qt 5
             << speeds() << QVariant(QByteArray("500"))
             << QStringList{"125 kbit/s", "250 kbit/s", "500 kbit/s"}
             << QStringList{"125", "250", "500"} << 2;
-        QTest::newRow("gap leaves blank, key past end lost")
-            << Options{{0, {"A", "a"}}, {1, {"B", "b"}}, {3, {"F", "f"}}} << QVariant("f")
-            << QStringList{"A", "B", ""} << QStringList{"a", "b", ""} << 0;
+        row("gap leaves blank, key past end lost",
+            Options{{0, {"A", "a"}}, {1, {"B", "b"}}, {3, {"F", "f"}}}, QVariant("f"),
+            QStringList{"A", "B", ""}, QStringList{"a", "b", ""}, 0);
     }
 
     void filling()
     {
-        QFETCH(Options, options);
-        QFETCH(QVariant, value);
-        QFETCH(QStringList, texts);
-        QFETCH(QStringList, values);
-        QFETCH(int, current);
+        auto [options, value, texts, values, current] =
+            fetch<Options, QVariant, QStringList, QStringList, int>("options", "value", "texts",
+                                                                    "values", "current");
 
         TestHost host;
         MainConfigObject &object = host.add(10, 0, value);
@@ -87,23 +83,18 @@ private slots:
 
     void colour_data()
     {
-        QTest::addColumn<bool>("error");
-        QTest::addColumn<bool>("enabled");
-        QTest::addColumn<bool>("matchesStored");
-        QTest::addColumn<QString>("expected");
+        columns<bool, bool, bool, QString>("error", "enabled", "matchesStored", "expected");
 
-        QTest::newRow("stored, enabled") << false << true << true << sheet("white");
-        QTest::newRow("stored, disabled") << false << false << true << sheet("#f1f1f1");
-        QTest::newRow("changed, disabled") << false << false << false << sheet("#ffff8e");
-        QTest::newRow("error wins, enabled") << true << true << false << sheet("red");
+        row("stored, enabled", false, true, true, sheet("white"));
+        row("stored, disabled", false, false, true, sheet("#f1f1f1"));
+        row("changed, disabled", false, false, false, sheet("#ffff8e"));
+        row("error wins, enabled", true, true, false, sheet("red"));
     }
 
     void colour()
     {
-        QFETCH(bool, error);
-        QFETCH(bool, enabled);
-        QFETCH(bool, matchesStored);
-        QFETCH(QString, expected);
+        auto [error, enabled, matchesStored, expected] =
+            fetch<bool, bool, bool, QString>("error", "enabled", "matchesStored", "expected");
 
         TestHost host;
         host.add(10, 0, "250").options = speeds();
@@ -125,28 +116,30 @@ private slots:
             item->setBackground(Qt::red);
             return item;
         };
-        QTest::newRow("item recoloured") << HostAction(
-            [](CfgComboBox &combo) { combo.setItemData(1, QColor(Qt::red), Qt::BackgroundRole); });
-        QTest::newRow("coloured row added") << HostAction([red](CfgComboBox &combo) {
-            qobject_cast<QStandardItemModel *>(combo.model())->appendRow(red(new QStandardItem));
-        });
-        QTest::newRow("other model") << HostAction([red](CfgComboBox &combo) {
-            auto *model = new QStandardItemModel(&combo);
-            model->appendRow(red(new QStandardItem));
-            combo.setModel(model);
-        });
-        QTest::newRow("other column") << HostAction([red](CfgComboBox &combo) {
-            auto *model = qobject_cast<QStandardItemModel *>(combo.model());
-            model->setItem(0, 1, red(new QStandardItem));
-            combo.updateControl(0);
-            combo.setModelColumn(1);
-        });
-        QTest::newRow("other root") << HostAction([red](CfgComboBox &combo) {
-            auto *model = qobject_cast<QStandardItemModel *>(combo.model());
-            model->item(0)->appendRow(red(new QStandardItem));
-            combo.updateControl(0);
-            combo.setRootModelIndex(model->index(0, 0));
-        });
+        row("item recoloured", HostAction([](CfgComboBox &combo) {
+                combo.setItemData(1, QColor(Qt::red), Qt::BackgroundRole);
+            }));
+        row("coloured row added", HostAction([red](CfgComboBox &combo) {
+                qobject_cast<QStandardItemModel *>(combo.model())
+                    ->appendRow(red(new QStandardItem));
+            }));
+        row("other model", HostAction([red](CfgComboBox &combo) {
+                auto *model = new QStandardItemModel(&combo);
+                model->appendRow(red(new QStandardItem));
+                combo.setModel(model);
+            }));
+        row("other column", HostAction([red](CfgComboBox &combo) {
+                auto *model = qobject_cast<QStandardItemModel *>(combo.model());
+                model->setItem(0, 1, red(new QStandardItem));
+                combo.updateControl(0);
+                combo.setModelColumn(1);
+            }));
+        row("other root", HostAction([red](CfgComboBox &combo) {
+                auto *model = qobject_cast<QStandardItemModel *>(combo.model());
+                model->item(0)->appendRow(red(new QStandardItem));
+                combo.updateControl(0);
+                combo.setRootModelIndex(model->index(0, 0));
+            }));
     }
 
     void itemsStayWhite()

@@ -3,6 +3,7 @@
 // The control reads numbers through the system locale, which the toolkit takes from the
 // environment at start-up: CTest runs this suite with a point locale and with a comma one.
 #include "telecfg/controls/cfgdoublespinbox.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -40,24 +41,22 @@ private slots:
 
     void binding_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QVariantList>("record"); // minimum, maximum, value
-        QTest::addColumn<QList<double>>("shown"); // minimum, maximum, value
+        // record: minimum, maximum, value
+        // shown: minimum, maximum, value
+        columns<int, QVariantList, QList<double>>("type", "record", "shown");
 
-        QTest::newRow("value in local notation")
-            << 3 << QVariantList{local("0#5"), "100", local("0#75")}
-            << QList<double>{0.5, 100, 0.75};
-        QTest::newRow("value in the other notation is adapted")
-            << 3 << QVariantList{"0", "100", foreign("0#75")} << QList<double>{0, 100, 0.75};
-        QTest::newRow("bound in the other notation reads 0")
-            << 3 << QVariantList{foreign("0#5"), "100", "20"} << QList<double>{0, 100, 20};
+        row("value in local notation", 3, QVariantList{local("0#5"), "100", local("0#75")},
+            QList<double>{0.5, 100, 0.75});
+        row("value in the other notation is adapted", 3, QVariantList{"0", "100", foreign("0#75")},
+            QList<double>{0, 100, 0.75});
+        row("bound in the other notation reads 0", 3, QVariantList{foreign("0#5"), "100", "20"},
+            QList<double>{0, 100, 20});
     }
 
     void binding()
     {
-        QFETCH(int, type);
-        QFETCH(QVariantList, record);
-        QFETCH(QList<double>, shown);
+        auto [type, record, shown] =
+            fetch<int, QVariantList, QList<double>>("type", "record", "shown");
 
         TestHost host;
         MainConfigObject &object = host.add(10, type, record[2]);
@@ -73,23 +72,19 @@ private slots:
 
     void edits_data()
     {
-        QTest::addColumn<int>("step");
-        QTest::addColumn<double>("edited");
-        QTest::addColumn<bool>("written");
+        columns<int, double, bool>("step", "edited", "written");
 
-        QTest::newRow("multiple written") << 2 << 6.0 << true;
-        QTest::newRow("fraction refused") << 1 << 2.5 << false;
-        QTest::newRow("step 0, value 0: not a number, refused") << 0 << 0.0 << false;
-        QTest::newRow("step 0, other value: infinite, written") << 0 << 5.0 << true;
-        QTest::newRow("near multiple within a float passes") << 3 << 100000001.0 << true;
-        QTest::newRow("no multiple within a float's reach") << 3 << 1000001.0 << false;
+        row("multiple written", 2, 6.0, true);
+        row("fraction refused", 1, 2.5, false);
+        row("step 0, value 0: not a number, refused", 0, 0.0, false);
+        row("step 0, other value: infinite, written", 0, 5.0, true);
+        row("near multiple within a float passes", 3, 100000001.0, true);
+        row("no multiple within a float's reach", 3, 1000001.0, false);
     }
 
     void edits()
     {
-        QFETCH(int, step);
-        QFETCH(double, edited);
-        QFETCH(bool, written);
+        auto [step, edited, written] = fetch<int, double, bool>("step", "edited", "written");
 
         TestHost host;
         MainConfigObject &object = host.add(10, 3, QString::number(12));

@@ -3,6 +3,7 @@
 // Decimal patterns follow the system locale, which the toolkit reads from the environment
 // at start-up: CTest runs this suite once with a point locale and once with a comma one.
 #include "telecfg/controls/cfglineedit.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -45,9 +46,7 @@ private slots:
     // typed): the same on every build, odd escapes included.
     void validators_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("state");
+        columns<int, QString, int>("type", "text", "state");
 
         const QString sep = pointLocale() ? "." : ",", other = pointLocale() ? "," : ".";
         auto row = [](int type, const QString &text, QValidator::State state) {
@@ -82,9 +81,7 @@ private slots:
 
     void validators()
     {
-        QFETCH(int, type);
-        QFETCH(QString, text);
-        QFETCH(int, state);
+        auto [type, text, state] = fetch<int, QString, int>("type", "text", "state");
 
         TestHost host;
         host.add(10, type, QString());
@@ -98,41 +95,29 @@ private slots:
 
     void bindAndEdit_data()
     {
-        QTest::addColumn<int>("ref");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QVariantList>("echoes"); // written by binding
-        QTest::addColumn<bool>("error");
-        QTest::addColumn<QString>("text");     // then set as by the user
-        QTest::addColumn<QVariant>("written"); // invalid: nothing written
-        QTest::addColumn<QString>("sheet");
+        // echoes: written by binding
+        // text: then set as by the user
+        // written: invalid: nothing written
+        columns<int, QVariant, QString, QVariantList, bool, QString, QVariant, QString>(
+            "ref", "value", "shown", "echoes", "error", "text", "written", "sheet");
 
-        QTest::newRow("number echoes as text; text written")
-            << 10 << QVariant(42u) << "42" << QVariantList{"42"} << false << "123"
-            << QVariant("123") << yellow;
-        QTest::newRow("refused by validator still shown; trailing blank refused")
-            << 10 << QVariant("12ab") << "12ab" << QVariantList{"12ab"} << false << "ab "
-            << QVariant() << red;
-        QTest::newRow("blank at end not echoed; empty written")
-            << 10 << QVariant("12 ") << "12 " << QVariantList() << false << "" << QVariant("")
-            << yellow;
-        QTest::newRow("error blocks the edit") << 10 << QVariant("a") << "a" << QVariantList{"a"}
-                                               << true << "123" << QVariant() << red;
-        QTest::newRow("parameter 4 emptied, error")
-            << 4 << QVariant(0xFFFFFFFFu) << "4294967295" << QVariantList{"4294967295"} << true
-            << "" << QVariant(0xFFFFFFFFu) << white;
+        row("number echoes as text; text written", 10, QVariant(42u), "42", QVariantList{"42"},
+            false, "123", QVariant("123"), yellow);
+        row("refused by validator still shown; trailing blank refused", 10, QVariant("12ab"),
+            "12ab", QVariantList{"12ab"}, false, "ab ", QVariant(), red);
+        row("blank at end not echoed; empty written", 10, QVariant("12 "), "12 ", QVariantList(),
+            false, "", QVariant(""), yellow);
+        row("error blocks the edit", 10, QVariant("a"), "a", QVariantList{"a"}, true, "123",
+            QVariant(), red);
+        row("parameter 4 emptied, error", 4, QVariant(0xFFFFFFFFu), "4294967295",
+            QVariantList{"4294967295"}, true, "", QVariant(0xFFFFFFFFu), white);
     }
 
     void bindAndEdit()
     {
-        QFETCH(int, ref);
-        QFETCH(QVariant, value);
-        QFETCH(QString, shown);
-        QFETCH(QVariantList, echoes);
-        QFETCH(bool, error);
-        QFETCH(QString, text);
-        QFETCH(QVariant, written);
-        QFETCH(QString, sheet);
+        auto [ref, value, shown, echoes, error, text, written, sheet] =
+            fetch<int, QVariant, QString, QVariantList, bool, QString, QVariant, QString>(
+                "ref", "value", "shown", "echoes", "error", "text", "written", "sheet");
 
         TestHost host;
         host.add(ref, 1, value);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgradiobutton.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -31,43 +32,30 @@ class TestCfgRadioButton : public TestCase
 private slots:
     void checkedState_data()
     {
-        QTest::addColumn<bool>("select"); // setSelected(value) instead of binding to it
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("checkedBefore");
-        QTest::addColumn<bool>("checked");
-        QTest::addColumn<QVariant>("choice"); // the record's minimum
+        // select: setSelected(value) instead of binding to it
+        // choice: the record's minimum
+        columns<bool, int, QVariant, bool, bool, QVariant>("select", "type", "value",
+                                                           "checkedBefore", "checked", "choice");
 
-        QTest::newRow("bound, its choice")
-            << false << 4 << QVariant(2u) << false << true << QVariant(2u);
-        QTest::newRow("bound, other choice")
-            << false << 4 << QVariant(3u) << true << false << QVariant(2u);
-        QTest::newRow("bound, value as text")
-            << false << 4 << QVariant("2") << false << true << QVariant(2u);
-        QTest::newRow("bound, wrong type")
-            << false << 4 << QVariant(QSize(2, 2)) << true << false << QVariant(2u);
-        QTest::newRow("bound, other type keeps")
-            << false << 1 << QVariant(3u) << true << true << QVariant(2u);
-        QTest::newRow("selected, its choice")
-            << true << 4 << QVariant(2) << false << true << QVariant(2u);
-        QTest::newRow("selected, other value")
-            << true << 4 << QVariant(3) << true << false << QVariant(2u);
-        QTest::newRow("selected, other type")
-            << true << 1 << QVariant(2) << false << false << QVariant(2u);
+        row("bound, its choice", false, 4, QVariant(2u), false, true, QVariant(2u));
+        row("bound, other choice", false, 4, QVariant(3u), true, false, QVariant(2u));
+        row("bound, value as text", false, 4, QVariant("2"), false, true, QVariant(2u));
+        row("bound, wrong type", false, 4, QVariant(QSize(2, 2)), true, false, QVariant(2u));
+        row("bound, other type keeps", false, 1, QVariant(3u), true, true, QVariant(2u));
+        row("selected, its choice", true, 4, QVariant(2), false, true, QVariant(2u));
+        row("selected, other value", true, 4, QVariant(3), true, false, QVariant(2u));
+        row("selected, other type", true, 1, QVariant(2), false, false, QVariant(2u));
         QTest::newRow("bound, choice held as bytes") // on Qt 6 as on Qt 5
             << false << 4 << QVariant(2u) << false << true << QVariant(QByteArray("2"));
-        QTest::newRow("selected, choice held as bytes")
-            << true << 4 << QVariant(2) << false << true << QVariant(QByteArray("2"));
+        row("selected, choice held as bytes", true, 4, QVariant(2), false, true,
+            QVariant(QByteArray("2")));
     }
 
     void checkedState()
     {
-        QFETCH(bool, select);
-        QFETCH(int, type);
-        QFETCH(QVariant, value);
-        QFETCH(bool, checkedBefore);
-        QFETCH(bool, checked);
-        QFETCH(QVariant, choice);
+        auto [select, type, value, checkedBefore, checked, choice] =
+            fetch<bool, int, QVariant, bool, bool, QVariant>("select", "type", "value",
+                                                             "checkedBefore", "checked", "choice");
 
         TestHost host;
         host.add(10, type, select ? QVariant(0u) : value).minimum = choice;

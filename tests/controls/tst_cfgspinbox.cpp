@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/controls/cfgspinbox.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -19,49 +20,43 @@ class TestCfgSpinBox : public TestCase
 private slots:
     void bindingAndLook_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QVariantList>("record"); // minimum, maximum, value
-        QTest::addColumn<int>("step");
-        QTest::addColumn<QString>("state");    // what the host reports of the value
-        QTest::addColumn<QList<int>>("shown"); // minimum, maximum, value
-        QTest::addColumn<QString>("sheet");
+        // record: minimum, maximum, value
+        // state: what the host reports of the value
+        // shown: minimum, maximum, value
+        columns<int, QVariantList, int, QString, QList<int>, QString>("type", "record", "step",
+                                                                      "state", "shown", "sheet");
 
         const QVariantList wide{-100, 100};
-        QTest::newRow("value above maximum clamped")
-            << 1 << QVariantList{0u, 300u, 500u} << 5 << "" << QList<int>{0, 300, 300} << white;
-        QTest::newRow("signed bounds; -20 is red by its unsigned reading")
-            << 21 << QVariantList{-50, 50, -20} << 5 << "" << QList<int>{-50, 50, -20} << red;
-        QTest::newRow("signed bounds held as text") << 21 << QVariantList{"-40", "40", "-10"} << 1
-                                                    << "" << QList<int>{-40, 40, -10} << white;
-        QTest::newRow("unsigned -1 reads huge, wraps")
-            << 1 << QVariantList{0u, 0xFFFFFFFFu, 10u} << 5 << "" << QList<int>{-1, -1, -1}
-            << white;
+        row("value above maximum clamped", 1, QVariantList{0u, 300u, 500u}, 5, "",
+            QList<int>{0, 300, 300}, white);
+        row("signed bounds; -20 is red by its unsigned reading", 21, QVariantList{-50, 50, -20}, 5,
+            "", QList<int>{-50, 50, -20}, red);
+        row("signed bounds held as text", 21, QVariantList{"-40", "40", "-10"}, 1, "",
+            QList<int>{-40, 40, -10}, white);
+        row("unsigned -1 reads huge, wraps", 1, QVariantList{0u, 0xFFFFFFFFu, 10u}, 5, "",
+            QList<int>{-1, -1, -1}, white);
         // A host that stores the bounds' echoes still gets its value shown.
-        QTest::newRow("value inside raised bounds")
-            << 1 << QVariantList{200u, 300u, 250u} << 5 << "" << QList<int>{200, 300, 250} << white;
-        QTest::newRow("modified") << 1 << wide + QVariantList{20} << 5 << "modified"
-                                  << QList<int>{-100, 100, 20} << yellow;
-        QTest::newRow("no multiple, red though modified")
-            << 1 << wide + QVariantList{22} << 5 << "modified" << QList<int>{-100, 100, 22} << red;
-        QTest::newRow("invalid") << 1 << wide + QVariantList{20} << 5 << "invalid"
-                                 << QList<int>{-100, 100, 20} << red;
+        row("value inside raised bounds", 1, QVariantList{200u, 300u, 250u}, 5, "",
+            QList<int>{200, 300, 250}, white);
+        row("modified", 1, wide + QVariantList{20}, 5, "modified", QList<int>{-100, 100, 20},
+            yellow);
+        row("no multiple, red though modified", 1, wide + QVariantList{22}, 5, "modified",
+            QList<int>{-100, 100, 22}, red);
+        row("invalid", 1, wide + QVariantList{20}, 5, "invalid", QList<int>{-100, 100, 20}, red);
         // Negative values are divided by their unsigned reading.
-        QTest::newRow("-4 by 3: unsigned reading divides")
-            << 21 << wide + QVariantList{-4} << 3 << "" << QList<int>{-100, 100, -4} << white;
-        QTest::newRow("-3 by 3: unsigned reading does not")
-            << 21 << wide + QVariantList{-3} << 3 << "" << QList<int>{-100, 100, -3} << red;
-        QTest::newRow("step 0: no rule, no crash")
-            << 1 << wide + QVariantList{7} << 0 << "" << QList<int>{-100, 100, 7} << white;
+        row("-4 by 3: unsigned reading divides", 21, wide + QVariantList{-4}, 3, "",
+            QList<int>{-100, 100, -4}, white);
+        row("-3 by 3: unsigned reading does not", 21, wide + QVariantList{-3}, 3, "",
+            QList<int>{-100, 100, -3}, red);
+        row("step 0: no rule, no crash", 1, wide + QVariantList{7}, 0, "", QList<int>{-100, 100, 7},
+            white);
     }
 
     void bindingAndLook()
     {
-        QFETCH(int, type);
-        QFETCH(QVariantList, record);
-        QFETCH(int, step);
-        QFETCH(QString, state);
-        QFETCH(QList<int>, shown);
-        QFETCH(QString, sheet);
+        auto [type, record, step, state, shown, sheet] =
+            fetch<int, QVariantList, int, QString, QList<int>, QString>("type", "record", "step",
+                                                                        "state", "shown", "sheet");
 
         TestHost host;
         MainConfigObject &object = host.add(10, type, record[2]);

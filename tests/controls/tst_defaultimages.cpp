@@ -4,6 +4,7 @@
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/images/defaultimages.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testhost.h"
 
 #include <QImage>
@@ -46,6 +47,14 @@ void addImageRecords(TestHost &host)
     host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
     host.records[5].minVersions[0] = 0;
 }
+
+template <class Control> Control *bound(TestHost &host, int ref)
+{
+    auto *control = new Control;
+    control->setReference(&host, ref, nullptr, {});
+    control->updateControl(1);
+    return control;
+}
 } // namespace
 
 // Every image any sheet names, in every state a control paints, loads from the default set,
@@ -64,19 +73,16 @@ void TestDefaultImages::everyImageTheSheetsName()
     radio.setReference(&host, 4, nullptr, {});
     combo.setReference(&host, 5, nullptr, {});
     QSet<QString> urls;
-    for (bool enabled : {true, false}) {
-        for (bool modified : {false, true}) {
-            host.modified = modified ? QSet<int>{3, 4, 5} : QSet<int>{};
-            for (QWidget *widget : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&radio),
-                                    static_cast<QWidget *>(&combo)})
-                widget->setEnabled(enabled);
-            box.updateControl(1);
-            radio.updateControl(1);
-            combo.updateControl(1);
-            for (QWidget *widget : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&radio),
-                                    static_cast<QWidget *>(&combo)})
-                collectUrls(widget->styleSheet(), &urls);
-        }
+    for (int look = 0; look < 4; ++look) {
+        host.modified = look & 1 ? QSet<int>{3, 4, 5} : QSet<int>{};
+        for (QWidget *widget : {static_cast<QWidget *>(&box), static_cast<QWidget *>(&radio),
+                                static_cast<QWidget *>(&combo)})
+            widget->setEnabled(look < 2);
+        box.updateControl(1);
+        radio.updateControl(1);
+        combo.updateControl(1);
+        for (const QString &sheet : {box.styleSheet(), radio.styleSheet(), combo.styleSheet()})
+            collectUrls(sheet, &urls);
     }
     QCOMPARE(urls.size(), 16);
     for (const QString &url : std::as_const(urls))
@@ -112,47 +118,28 @@ static bool contains(const QImage &haystack, const QImage &needle)
 
 void TestDefaultImages::sharpAtScaleTwo_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("image");
-    QTest::addColumn<QString>("hovered"); // Qt 6's offscreen pointer may rest on the control
-    QTest::newRow("check box") << "checkbox"
-                               << "checkbox_grey_checked"
-                               << "checkbox_checked_hover";
-    QTest::newRow("radio button") << "radio"
-                                  << "radiobutton_selected_black"
-                                  << "radiobutton_selected_hover";
-    QTest::newRow("combo box arrow") << "combo"
-                                     << "arrow"
-                                     << "arrow";
+    // hovered: Qt 6's offscreen pointer may rest on the control
+    columns<QString, QString, QString>("kind", "image", "hovered");
+    row("check box", "checkbox", "checkbox_grey_checked", "checkbox_checked_hover");
+    row("radio button", "radio", "radiobutton_selected_black", "radiobutton_selected_hover");
+    row("combo box arrow", "combo", "arrow", "arrow");
 }
 
 // On a screen of device pixel ratio 2 (the suite runs again under QT_SCALE_FACTOR=2) a
 // control draws the image's sharp variant, not the small one enlarged.
 void TestDefaultImages::sharpAtScaleTwo()
 {
-    QFETCH(QString, kind);
-    QFETCH(QString, image);
-    QFETCH(QString, hovered);
+    auto [kind, image, hovered] = fetch<QString, QString, QString>("kind", "image", "hovered");
     initDefaultImages();
     TestHost host;
     addImageRecords(host);
     std::unique_ptr<QWidget> widget;
-    if (kind == QLatin1String("checkbox")) {
-        auto *box = new CfgCheckBox;
-        widget.reset(box);
-        box->setReference(&host, 3, nullptr, {});
-        box->updateControl(1);
-    } else if (kind == QLatin1String("radio")) {
-        auto *radio = new CfgRadioButton;
-        widget.reset(radio);
-        radio->setReference(&host, 4, nullptr, {});
-        radio->updateControl(1);
-    } else {
-        auto *combo = new CfgComboBox;
-        widget.reset(combo);
-        combo->setReference(&host, 5, nullptr, {});
-        combo->updateControl(1);
-    }
+    if (kind == QLatin1String("checkbox"))
+        widget.reset(bound<CfgCheckBox>(host, 3));
+    else if (kind == QLatin1String("radio"))
+        widget.reset(bound<CfgRadioButton>(host, 4));
+    else
+        widget.reset(bound<CfgComboBox>(host, 5));
     widget->show();
     QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
     const QImage shot = widget->grab().toImage();

@@ -7,6 +7,7 @@
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "tests/support/anycontrol.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
@@ -87,14 +88,14 @@ private:
     {
         QTest::addColumn<QString>("kind");
         for (const QString &kind : anyControlKinds())
-            QTest::newRow(qPrintable(kind)) << kind;
+            row(qPrintable(kind), kind);
     }
 };
 
 void TestLifetime::relatedWidgetsGoneOrNull_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<bool>("nulls"); // else: given, then deleted by the host
+    // nulls: else: given, then deleted by the host
+    columns<QString, bool>("kind", "nulls");
     for (const QString &kind : anyControlKinds()) {
         QTest::addRow("%s: deleted", qPrintable(kind)) << kind << false;
         QTest::addRow("%s: null", qPrintable(kind)) << kind << true;
@@ -103,8 +104,7 @@ void TestLifetime::relatedWidgetsGoneOrNull_data()
 
 void TestLifetime::relatedWidgetsGoneOrNull()
 {
-    QFETCH(QString, kind);
-    QFETCH(bool, nulls);
+    auto [kind, nulls] = fetch<QString, bool>("kind", "nulls");
     TestHost host;
     addEditableRecord(host, kind, ref).hardwareIds = {7};
     Page page(kind);
@@ -135,8 +135,7 @@ void TestLifetime::relatedWidgetsGoneOrNull()
 
 void TestLifetime::deletedFromItsOwnSignal_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<bool>("wholeForm");
+    columns<QString, bool>("kind", "wholeForm");
     for (const QString &kind : anyControlKinds()) {
         QTest::addRow("%s: control", qPrintable(kind)) << kind << false;
         QTest::addRow("%s: form", qPrintable(kind)) << kind << true;
@@ -145,8 +144,7 @@ void TestLifetime::deletedFromItsOwnSignal_data()
 
 void TestLifetime::deletedFromItsOwnSignal()
 {
-    QFETCH(QString, kind);
-    QFETCH(bool, wholeForm);
+    auto [kind, wholeForm] = fetch<QString, bool>("kind", "wholeForm");
     TestHost host;
     addEditableRecord(host, kind, ref);
     Page page(kind);
@@ -196,11 +194,11 @@ void TestLifetime::tableRebuiltBetweenCalls()
 void TestLifetime::dialogDeletedWithItsParent_data()
 {
     QTest::addColumn<int>("opener");
-    QTest::newRow("list: duplicate add") << 0;
-    QTest::newRow("list: in-place edit onto a present text") << 1;
-    QTest::newRow("table: duplicate add") << 2;
-    QTest::newRow("table: cell emptied") << 3;
-    QTest::newRow("import wizard") << 4;
+    row("list: duplicate add", 0);
+    row("list: in-place edit onto a present text", 1);
+    row("table: duplicate add", 2);
+    row("table: cell emptied", 3);
+    row("import wizard", 4);
 }
 
 // Whatever of the library opens a modal dialog and goes on after it, the host deletes the page

@@ -10,6 +10,7 @@
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/statecolours.h"
 #include "tests/support/anycontrol.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
@@ -203,10 +204,7 @@ void TestReadability::initTestCase()
 
 void TestReadability::textReadsInEveryPalette_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<bool>("darkStates");
+    columns<QString, QString, bool, bool>("kind", "state", "dark", "darkStates");
     for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox", "list", "table"})
         for (const char *state : {"normal", "modified", "invalid", "disabled"}) {
             QTest::addRow("%s %s default", kind, state) << kind << state << false << false;
@@ -218,10 +216,8 @@ void TestReadability::textReadsInEveryPalette_data()
 // Text reaches 4.5:1 against the background the state paints, in any palette.
 void TestReadability::textReadsInEveryPalette()
 {
-    QFETCH(QString, kind);
-    QFETCH(QString, state);
-    QFETCH(bool, dark);
-    QFETCH(bool, darkStates);
+    auto [kind, state, dark, darkStates] =
+        fetch<QString, QString, bool, bool>("kind", "state", "dark", "darkStates");
     QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
     setStateColours(darkStates ? StateColours::Dark : StateColours::Standard);
     Bound bound(kind, state);
@@ -235,9 +231,7 @@ void TestReadability::textReadsInEveryPalette()
 
 void TestReadability::stateToldBeyondColour_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QString>("words");
+    columns<QString, QString, QString>("kind", "state", "words");
     for (const char *kind :
          {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "radiobutton"})
         QTest::addRow("%s modified", kind) << kind << "modified"
@@ -246,18 +240,10 @@ void TestReadability::stateToldBeyondColour_data()
         QTest::addRow("%s invalid", kind) << kind << "invalid"
                                           << "Nieprawidłowa";
     // The editors say it of the parameter, and each element of itself.
-    QTest::newRow("list modified") << "list"
-                                   << "modified"
-                                   << "Zmieniona\tZmodyfikowany element";
-    QTest::newRow("list invalid") << "list"
-                                  << "invalid"
-                                  << "Nieprawidłowa\tNieprawidłowy element";
-    QTest::newRow("table modified") << "table"
-                                    << "modified"
-                                    << "Zmieniona\tZmodyfikowany element";
-    QTest::newRow("table invalid") << "table"
-                                   << "invalid"
-                                   << "Nieprawidłowa\tNieprawidłowy element";
+    row("list modified", "list", "modified", "Zmieniona\tZmodyfikowany element");
+    row("list invalid", "list", "invalid", "Nieprawidłowa\tNieprawidłowy element");
+    row("table modified", "table", "modified", "Zmieniona\tZmodyfikowany element");
+    row("table invalid", "table", "invalid", "Nieprawidłowa\tNieprawidłowy element");
 }
 
 // A modified or invalid control says so in its tool tip (after the host's own text) and
@@ -265,9 +251,7 @@ void TestReadability::stateToldBeyondColour_data()
 // state's rendering differs from the normal one by at least 3:1 somewhere.
 void TestReadability::stateToldBeyondColour()
 {
-    QFETCH(QString, kind);
-    QFETCH(QString, state);
-    QFETCH(QString, words);
+    auto [kind, state, words] = fetch<QString, QString, QString>("kind", "state", "words");
     Bound normal(kind, QStringLiteral("normal"));
     Bound marked(kind, state);
     QVERIFY(QTest::qWaitForWindowExposed(&marked.form));
@@ -294,20 +278,17 @@ void TestReadability::stateToldBeyondColour()
 
 void TestReadability::accessibleNameIsTheLabel_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("name");
+    columns<QString, QString>("kind", "name");
     for (const char *kind :
          {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "list", "table"})
-        QTest::newRow(kind) << kind << "Pojemność";
-    QTest::newRow("radiobutton") << "radiobutton"
-                                 << "Pojemność: Ręcznie";
+        row(kind, kind, "Pojemność");
+    row("radiobutton", "radiobutton", "Pojemność: Ręcznie");
 }
 
 // A screen reader names every kind after its label; a radio button adds its own choice.
 void TestReadability::accessibleNameIsTheLabel()
 {
-    QFETCH(QString, kind);
-    QFETCH(QString, name);
+    auto [kind, name] = fetch<QString, QString>("kind", "name");
     AnyControl control = makeAnyControl(kind);
     if (auto *radio = qobject_cast<CfgRadioButton *>(control.widget.get()))
         radio->setText(QStringLiteral("Ręcznie"));

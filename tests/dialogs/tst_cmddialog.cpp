@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/cmddialog.h"
 #include "tests/support/contexttranslator.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -29,29 +30,28 @@ class TestCmdDialog : public TestCase
 private slots:
     void commands_data()
     {
-        QTest::addColumn<Commands>("commands");
-        QTest::addColumn<QString>("items");      // "key:text" in the list's order
-        QTest::addColumn<QStringList>("typing"); // what is typed, what getCmd returns
+        // items: "key:text" in the list's order
+        // typing: what is typed, what getCmd returns
+        columns<Commands, QString, QStringList>("commands", "items", "typing");
 
         const Commands reset{{1, "Reset 5"}, {2, "Get Speed"}, {4, "ab cd"}};
         const QString listed = QStringLiteral("1:Reset 5 2:Get Speed 4:ab cd ");
         const QStringList none{"", ""};
-        QTest::newRow("keys") << Commands{{3, "c"}, {0, "a"}, {-4, "n"}} << "0:a 3:c " << none;
-        QTest::newRow("spacing") << reset << listed << QStringList{"RESET   5", "Reset 5"};
-        QTest::newRow("arg spacing") << reset << listed << QStringList{"ab c d", "ab cd"};
-        QTest::newRow("extra arg") << reset << listed << QStringList{"reset 5 a", "reset 5 a"};
-        QTest::newRow("arg case") << reset << listed << QStringList{"get speed", "get speed"};
-        QTest::newRow("no items") << Commands{} << QString() << QStringList{"RESET 5", "RESET 5"};
-        QTest::newRow("first key wins") << Commands{{1, "Out 1"}, {2, "OUT 1"}}
-                                        << "1:Out 1 2:OUT 1 " << QStringList{"out 1", "Out 1"};
+        row("keys", Commands{{3, "c"}, {0, "a"}, {-4, "n"}}, "0:a 3:c ", none);
+        row("spacing", reset, listed, QStringList{"RESET   5", "Reset 5"});
+        row("arg spacing", reset, listed, QStringList{"ab c d", "ab cd"});
+        row("extra arg", reset, listed, QStringList{"reset 5 a", "reset 5 a"});
+        row("arg case", reset, listed, QStringList{"get speed", "get speed"});
+        row("no items", Commands{}, QString(), QStringList{"RESET 5", "RESET 5"});
+        row("first key wins", Commands{{1, "Out 1"}, {2, "OUT 1"}}, "1:Out 1 2:OUT 1 ",
+            QStringList{"out 1", "Out 1"});
     }
 
     // The list offers the commands by ascending key, none selected; getCmd maps what is typed.
     void commands()
     {
-        QFETCH(Commands, commands);
-        QFETCH(QString, items);
-        QFETCH(QStringList, typing);
+        auto [commands, items, typing] =
+            fetch<Commands, QString, QStringList>("commands", "items", "typing");
 
         CmdDialog dialog(nullptr, commands);
         QComboBox *box = commandBox(&dialog);
@@ -83,11 +83,10 @@ private slots:
 
     void exec_data()
     {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<int>("result");
+        columns<int, int>("button", "result");
 
-        QTest::newRow("OK") << int(QDialogButtonBox::Ok) << 1;
-        QTest::newRow("Cancel") << int(QDialogButtonBox::Cancel) << 0;
+        row("OK", int(QDialogButtonBox::Ok), 1);
+        row("Cancel", int(QDialogButtonBox::Cancel), 0);
     }
 
     // The user picks an item and adds an argument.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/dualinputdlg.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -21,26 +22,23 @@ class TestDualInputDlg : public TestCase
 private slots:
     void fields_data()
     {
-        QTest::addColumn<int>("field"); // first or second
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("decimals");
-        QTest::addColumn<QString>("accepts"); // with which decimal separator it is taken
+        // field: first or second
+        // accepts: with which decimal separator it is taken
+        columns<int, QString, int, QString>("field", "text", "decimals", "accepts");
 
-        QTest::newRow("2 dec: negative, point") << 1 << "-12.34" << 2 << ".";
-        QTest::newRow("2 dec: three after") << 1 << "12.345" << 2 << "";
-        QTest::newRow("2 dec: comma") << 1 << "12,34" << 2 << ",";
-        QTest::newRow("0 dec: six digits") << 1 << "123456" << 0 << ".,";
-        QTest::newRow("0 dec: seven digits") << 1 << "1234567" << 0 << "";
-        QTest::newRow("0 dec: minus") << 1 << "-1" << 0 << "";
-        QTest::newRow("second: seven digits") << 2 << "1234567" << 2 << "";
+        row("2 dec: negative, point", 1, "-12.34", 2, ".");
+        row("2 dec: three after", 1, "12.345", 2, "");
+        row("2 dec: comma", 1, "12,34", 2, ",");
+        row("0 dec: six digits", 1, "123456", 0, ".,");
+        row("0 dec: seven digits", 1, "1234567", 0, "");
+        row("0 dec: minus", 1, "-1", 0, "");
+        row("second: seven digits", 2, "1234567", 2, "");
     }
 
     void fields()
     {
-        QFETCH(int, decimals);
-        QFETCH(int, field);
-        QFETCH(QString, text);
-        QFETCH(QString, accepts);
+        auto [decimals, field, text, accepts] =
+            fetch<int, int, QString, QString>("decimals", "field", "text", "accepts");
 
         // Run by fieldsInOtherLocales in a child process, which says which separator it set.
         const QByteArray forced = qgetenv(separatorVariable);
@@ -57,17 +55,15 @@ private slots:
 
     void fieldsInOtherLocales_data()
     {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("decimalPoint");
+        columns<QString, QString>("locale", "decimalPoint");
 
-        QTest::newRow("Polish: comma") << "pl_PL.UTF-8" << QStringLiteral(",");
-        QTest::newRow("English: point") << "en_GB.UTF-8" << QStringLiteral(".");
+        row("Polish: comma", "pl_PL.UTF-8", QStringLiteral(","));
+        row("English: point", "en_GB.UTF-8", QStringLiteral("."));
     }
 
     void fieldsInOtherLocales()
     {
-        QFETCH(QString, locale);
-        QFETCH(QString, decimalPoint);
+        auto [locale, decimalPoint] = fetch<QString, QString>("locale", "decimalPoint");
 
         if (qEnvironmentVariableIsSet(separatorVariable))
             QSKIP("already a child run");

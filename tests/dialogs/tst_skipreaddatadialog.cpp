@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/skipreaddatadialog.h"
 #include "tests/support/contexttranslator.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -29,13 +30,12 @@ class TestSkipReadDataDialog : public TestCase
 private slots:
     void exec_data()
     {
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<int>("clicks"); // the boxes the user clicks
-        QTest::addColumn<bool>("ok");
+        // clicks: the boxes the user clicks
+        columns<int, int, bool>("flags", "clicks", "ok");
 
         for (int i = 0; i < boxNames.size(); ++i)
-            QTest::newRow(qPrintable(boxNames[i])) << (1 << i) << (1 << (i + 1) % 5) << true;
-        QTest::newRow("cancel") << 0b10101 << 0b11111 << false;
+            row(qPrintable(boxNames[i]), (1 << i), (1 << (i + 1) % 5), true);
+        row("cancel", 0b10101, 0b11111, false);
     }
 
     // Every run shows the flags as they stand; only a confirmed run takes the boxes' values.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/dialogs/statuslabel.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QtTest>
@@ -21,33 +22,25 @@ private slots:
     // sets the style, each state with its own colour.
     void setValue_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<bool>("highlight");
-        QTest::addColumn<int>("durationMs");
-        QTest::addColumn<QString>("sheet");
+        columns<QString, int, bool, int, QString>("value", "state", "highlight", "durationMs",
+                                                  "sheet");
 
-        QTest::newRow("none") << "6" << 0 << false << 0 << resting + "QLabel {};";
-        QTest::newRow("green") << "6" << 1 << false << 0 << resting + green;
-        QTest::newRow("red") << "6" << 2 << false << 0 << resting + red;
-        QTest::newRow("yellow") << "6" << 3 << false << 0
-                                << resting + "QLabel { background-color : yellow};";
-        QTest::newRow("orange") << "6" << 4 << false << 0
-                                << resting + "QLabel { background-color : orange};";
-        QTest::newRow("red too") << "6" << 5 << false << 0 << resting + red;
-        QTest::newRow("6: frame only") << "6" << 6 << true << 0 << highlight;
-        QTest::newRow("repeat") << "5" << 1 << true << 0 << resting + green;
-        QTest::newRow("repeat, duration") << "5" << 1 << false << 500 << highlight + green;
-        QTest::newRow("new state") << "5" << 2 << true << 0 << highlight + red;
+        row("none", "6", 0, false, 0, resting + "QLabel {};");
+        row("green", "6", 1, false, 0, resting + green);
+        row("red", "6", 2, false, 0, resting + red);
+        row("yellow", "6", 3, false, 0, resting + "QLabel { background-color : yellow};");
+        row("orange", "6", 4, false, 0, resting + "QLabel { background-color : orange};");
+        row("red too", "6", 5, false, 0, resting + red);
+        row("6: frame only", "6", 6, true, 0, highlight);
+        row("repeat", "5", 1, true, 0, resting + green);
+        row("repeat, duration", "5", 1, false, 500, highlight + green);
+        row("new state", "5", 2, true, 0, highlight + red);
     }
 
     void setValue()
     {
-        QFETCH(QString, value);
-        QFETCH(int, state);
-        QFETCH(bool, highlight);
-        QFETCH(int, durationMs);
-        QFETCH(QString, sheet);
+        auto [value, state, highlight, durationMs, sheet] = fetch<QString, int, bool, int, QString>(
+            "value", "state", "highlight", "durationMs", "sheet");
 
         StatusLabel label;
         label.setValue(QStringLiteral("5"), StatusLabel::StateGreen, false, 0);
@@ -57,18 +50,16 @@ private slots:
 
     void highlightEnds_data()
     {
-        QTest::addColumn<int>("durationMs");
-        QTest::addColumn<int>("expectedMs");
+        columns<int, int>("durationMs", "expectedMs");
 
-        QTest::newRow("given") << 500 << 500;
-        QTest::newRow("negative: default") << -300 << 2000;
-        QTest::newRow("0: default") << 0 << 2000;
+        row("given", 500, 500);
+        row("negative: default", -300, 2000);
+        row("0: default", 0, 2000);
     }
 
     void highlightEnds()
     {
-        QFETCH(int, durationMs);
-        QFETCH(int, expectedMs);
+        auto [durationMs, expectedMs] = fetch<int, int>("durationMs", "expectedMs");
 
         StatusLabel label;
         label.setValue(QStringLiteral("on"), StatusLabel::StateGreen, true, durationMs);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/firmware/checksums.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QRandomGenerator>
@@ -19,20 +20,17 @@ private slots:
 
 void TestChecksums::checkValues_data()
 {
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<quint32>("crc16");
-    QTest::addColumn<quint32>("crc8");
+    columns<QByteArray, quint32, quint32>("data", "crc16", "crc8");
 
-    QTest::newRow("catalogue") << QByteArray("123456789") << 0x906Eu << 0xA1u;
-    QTest::newRow("empty") << QByteArray() << 0u << 0u;
+    row("catalogue", QByteArray("123456789"), 0x906Eu, 0xA1u);
+    row("empty", QByteArray(), 0u, 0u);
     // A 1-Wire ROM code: family 0x02, serial, then its CRC byte, after which the CRC is 0.
-    QTest::newRow("rom code") << QByteArray::fromHex("021CB801000000A2") << 0xE239u << 0u;
+    row("rom code", QByteArray::fromHex("021CB801000000A2"), 0xE239u, 0u);
 }
 
 void TestChecksums::checkValues()
 {
-    QFETCH(QByteArray, data);
-    QFETCH(quint32, crc16);
+    auto [data, crc16] = fetch<QByteArray, quint32>("data", "crc16");
     QCOMPARE(::crc16(data), crc16);
     QCOMPARE(::crc16(data), crc16); // the array form always starts afresh
     QTEST(quint32(crc8(data)), "crc8");

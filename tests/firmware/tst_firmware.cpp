@@ -5,6 +5,7 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/firmware/firmwarekeys.h"
 #include "tests/firmware/payloads.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QTemporaryDir>
@@ -128,29 +129,21 @@ private slots:
 
 void TestFirmware::imageLayout_data()
 {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<unsigned>("compress");
-    QTest::addColumn<bool>("plain");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("stored");
+    columns<int, unsigned, bool, QString, QString>("size", "compress", "plain", "name", "stored");
 
     // A name loses its last ".bin" and what follows, unless at the start; case counts.
     const QString n40(40, QLatin1Char('n'));
-    QTest::newRow("empty") << 0 << 0u << false << QString("a.bin.old") << QString("a");
-    QTest::newRow("one byte") << 1 << 0u << false << QString("x.bin.y.bin") << QString("x.bin.y");
-    QTest::newRow("page, plain") << P << 0u << true << QString(".bin") << QString(".bin");
-    QTest::newRow("page and a byte")
-        << P + 1 << 1u << false << QString("a.BIN") << QString("a.BIN");
-    QTest::newRow("240 pages") << 240 * P << 1u << false << n40 << n40.left(31);
+    row("empty", 0, 0u, false, QString("a.bin.old"), QString("a"));
+    row("one byte", 1, 0u, false, QString("x.bin.y.bin"), QString("x.bin.y"));
+    row("page, plain", P, 0u, true, QString(".bin"), QString(".bin"));
+    row("page and a byte", P + 1, 1u, false, QString("a.BIN"), QString("a.BIN"));
+    row("240 pages", 240 * P, 1u, false, n40, n40.left(31));
 }
 
 void TestFirmware::imageLayout()
 {
-    QFETCH(int, size);
-    QFETCH(unsigned, compress);
-    QFETCH(bool, plain);
-    QFETCH(QString, name);
-    QFETCH(QString, stored);
+    auto [size, compress, plain, name, stored] =
+        fetch<int, unsigned, bool, QString, QString>("size", "compress", "plain", "name", "stored");
     const QByteArray payload = makePayload(PayloadKind::Random, size, 5);
     firmware fw = writer(compress);
     fw.setNameDate(name, QStringLiteral("2026-11-22"));
@@ -244,18 +237,16 @@ void TestFirmware::writerQuirksAndLimits()
 
 void TestFirmware::compressedFilesReadBack_data()
 {
-    QTest::addColumn<PayloadKind>("kind");
-    QTest::addColumn<int>("extra");
-    QTest::newRow("firmware-like") << PayloadKind::FirmwareLike << 0;
-    QTest::newRow("random, partial page") << PayloadKind::Random << 1000;
-    QTest::newRow("erased") << PayloadKind::Erased << 0;
-    QTest::newRow("far repeats, partial page") << PayloadKind::FarRepeats << 17;
+    columns<PayloadKind, int>("kind", "extra");
+    row("firmware-like", PayloadKind::FirmwareLike, 0);
+    row("random, partial page", PayloadKind::Random, 1000);
+    row("erased", PayloadKind::Erased, 0);
+    row("far repeats, partial page", PayloadKind::FarRepeats, 17);
 }
 
 void TestFirmware::compressedFilesReadBack()
 {
-    QFETCH(PayloadKind, kind);
-    QFETCH(int, extra);
+    auto [kind, extra] = fetch<PayloadKind, int>("kind", "extra");
     const QByteArray all = makePayload(kind, 240 * P);
     for (int pages = 0; pages <= 240; ++pages) {
         const QByteArray payload = all.left(qMin(pages * P + (pages ? extra : 0), all.size()));
@@ -267,12 +258,8 @@ void TestFirmware::compressedFilesReadBack()
 
 void TestFirmware::fileReturnCodes_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<int>("hw1");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QByteArray>("result");
-    QTest::addColumn<int>("hw2After");
+    columns<QByteArray, int, QString, int, QByteArray, int>("file", "hw1", "mode", "code", "result",
+                                                            "hw2After");
 
     const QByteArray payload = makePayload(PayloadKind::FirmwareLike, 3 * P + 5);
     const QByteArray f1 = fileOf(payload, 0);
@@ -301,28 +288,26 @@ void TestFirmware::fileReturnCodes_data()
     const QString decipher("decipher"); // with the page key
 
     // hw1 is 0x1234 in every file, hw2 0x42; the caller's hw2 starts at 77.
-    QTest::newRow("short") << f1.left(127) << 0x1234 << read << 1 << same << 77;
-    QTest::newRow("too long") << tooLong << 9 << read << 3 << same << 77;
-    QTest::newRow("not blocks") << f1.left(f1.size() - 8) << 9 << read << 2 << same << 77;
-    QTest::newRow("bad crc") << badCrc << 0x1234 << read << 4 << same << 77;
-    QTest::newRow("form 1") << f1 << 0x1234 << read << 0 << f1.mid(128) << 77;
-    QTest::newRow("form 1, other hw") << exact << 9 << read << 5 << exact.mid(128) << 0x42;
-    QTest::newRow("form 2") << f2 << 0x1234 << read << 0 << recoded << 77;
-    QTest::newRow("form 2, other hw loses 5") << f2 << 9 << read << 0 << recoded << 0x42;
-    QTest::newRow("form 2, bad trailer") << badTrailer << 0x1234 << read << 2 << QByteArray() << 77;
-    QTest::newRow("form 2 wanted") << f2 << 0x1234 << want << 0 << f2.mid(128) << 77;
+    row("short", f1.left(127), 0x1234, read, 1, same, 77);
+    row("too long", tooLong, 9, read, 3, same, 77);
+    row("not blocks", f1.left(f1.size() - 8), 9, read, 2, same, 77);
+    row("bad crc", badCrc, 0x1234, read, 4, same, 77);
+    row("form 1", f1, 0x1234, read, 0, f1.mid(128), 77);
+    row("form 1, other hw", exact, 9, read, 5, exact.mid(128), 0x42);
+    row("form 2", f2, 0x1234, read, 0, recoded, 77);
+    row("form 2, other hw loses 5", f2, 9, read, 0, recoded, 0x42);
+    row("form 2, bad trailer", badTrailer, 0x1234, read, 2, QByteArray(), 77);
+    row("form 2 wanted", f2, 0x1234, want, 0, f2.mid(128), 77);
     // A tagged file opens with the outer key, whatever key the caller passes.
-    QTest::newRow("tagged") << tagged << 0x1234 << decipher << 0 << image << 77;
-    QTest::newRow("other type") << otherType << 0x1234 << read << 1 << same << 77;
-    QTest::newRow("form 3") << f3 << 0x1234 << decipher << 0 << payload << 77;
+    row("tagged", tagged, 0x1234, decipher, 0, image, 77);
+    row("other type", otherType, 0x1234, read, 1, same, 77);
+    row("form 3", f3, 0x1234, decipher, 0, payload, 77);
 }
 
 void TestFirmware::fileReturnCodes()
 {
-    QFETCH(QByteArray, file);
-    QFETCH(int, hw1);
-    QFETCH(QString, mode);
-    QFETCH(QByteArray, result);
+    auto [file, hw1, mode, result] =
+        fetch<QByteArray, int, QString, QByteArray>("file", "hw1", "mode", "result");
     const bool decipher = mode == "decipher";
     bool wantCompressed = mode == "want compressed";
     int hw2 = 77;
@@ -374,30 +359,29 @@ void TestFirmware::conversionToCompressed()
 
 void TestFirmware::hostileBodies_data()
 {
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<int>("maxSize");
+    columns<QByteArray, int>("body", "maxSize");
 
     const QByteArray valid = fileOf(makePayload(PayloadKind::FirmwareLike, 6 * P), 1).mid(128);
     const QByteArray head = imageOf(QByteArray(), 1).left(128);
     const int six = 136 + 6 * record;
-    QTest::newRow("terminator first") << sealed(head + QByteArray(2, '\0')) << six;
-    QTest::newRow("pending above the accumulator")
-        << sealed(head + QByteArray::fromHex("0011") + QByteArray(64, 'a')) << six;
-    QTest::newRow("length past the end")
-        << sealed(head + QByteArray::fromHex("0008") + QByteArray(30, 'a')) << six;
-    QTest::newRow("ends before the terminator") << valid.left(valid.size() - 48) << six;
-    QTest::newRow("wrong key") << deciphered(valid, pageKey, 96) << six;
+    row("terminator first", sealed(head + QByteArray(2, '\0')), six);
+    row("pending above the accumulator",
+        sealed(head + QByteArray::fromHex("0011") + QByteArray(64, 'a')), six);
+    row("length past the end", sealed(head + QByteArray::fromHex("0008") + QByteArray(30, 'a')),
+        six);
+    row("ends before the terminator", valid.left(valid.size() - 48), six);
+    row("wrong key", deciphered(valid, pageKey, 96), six);
     // The negative control of the read-back test: without the dictionary limit, matches
     // four pages back lie beyond the reader's ring.
-    QTest::newRow("unbounded dictionary")
-        << compressedBody(imageOf(makePayload(PayloadKind::FarRepeats, 12 * P), 1), false)
-        << 136 + 12 * record;
+    row("unbounded dictionary",
+        compressedBody(imageOf(makePayload(PayloadKind::FarRepeats, 12 * P), 1), false),
+        136 + 12 * record);
 
     // 260 erased records compress to a few bytes each; reading stops after 250 of them.
     const QByteArray erased = QByteArray(P, char(0xFF)) + QByteArray("\0\0\0\0V001", 8);
-    QTest::newRow("past the reading limit")
-        << compressedBody(head + erased.repeated(260) + QByteArray(8, '\0'), true)
-        << 128 + 250 * record;
+    row("past the reading limit",
+        compressedBody(head + erased.repeated(260) + QByteArray(8, '\0'), true),
+        128 + 250 * record);
 
     // No-length markers hold the reader back one pass each, so that the one page record of
     // this body is decoded only in the pass after the last whole block. There its size
@@ -409,13 +393,12 @@ void TestFirmware::hostileBodies_data()
         ++markers;
     QByteArray late = head + QByteArray(2 * markers, char(0xFF));
     late.append(char(length & 0xFF)).append(char(length >> 8)).append(packed, length);
-    QTest::newRow("any record is the last pass's trailer") << sealed(late) << 128 + 8;
+    row("any record is the last pass's trailer", sealed(late), 128 + 8);
 }
 
 void TestFirmware::hostileBodies()
 {
-    QFETCH(QByteArray, body);
-    QFETCH(int, maxSize);
+    auto [body, maxSize] = fetch<QByteArray, int>("body", "maxSize");
     QCOMPARE(firmware::recode(body, outerKey), 2);
     QVERIFY2(body.size() <= maxSize, qPrintable(QString::number(body.size())));
 }
@@ -447,8 +430,7 @@ void TestFirmware::legacyWordChain()
 
 void TestFirmware::failedSaveKeepsTheEarlierFile_data()
 {
-    QTest::addColumn<bool>("raw");
-    QTest::addColumn<QString>("place");
+    columns<bool, QString>("raw", "place");
     for (const bool raw : {false, true})
         for (const char *place : {"fits", "disk full", "folder is a file"})
             QTest::addRow("%s, %s", raw ? "raw" : "encoded", place) << raw << QString(place);
@@ -458,8 +440,7 @@ void TestFirmware::failedSaveKeepsTheEarlierFile_data()
 // plays the full disk.
 void TestFirmware::failedSaveKeepsTheEarlierFile()
 {
-    QFETCH(bool, raw);
-    QFETCH(QString, place);
+    auto [raw, place] = fetch<bool, QString>("raw", "place");
     QTemporaryDir dir;
     const QString plainFile = dir.filePath(QStringLiteral("plain"));
     const bool noFolder = place == QLatin1String("folder is a file");

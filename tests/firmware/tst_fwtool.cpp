@@ -5,6 +5,7 @@
 #include "telecfg/firmware/checksums.h"
 #include "telecfg/firmware/firmware.h"
 #include "tests/firmware/payloads.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 #include "tools/telecfg-fw/filereport.h"
 #include "tools/telecfg-fw/fwtool.h"
@@ -72,34 +73,29 @@ private slots:
 
 void TestFwTool::damagedFile_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<int>("expectedHw1");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("failing"); // what the summary's verdict names
+    // failing: what the summary's verdict names
+    columns<QByteArray, int, int, QString>("file", "expectedHw1", "status", "failing");
 
-    QTest::newRow("sound") << packedFile() << -1 << 0 << QString();
-    QTest::newRow("sound, its hardware") << packedFile() << 0x1234 << 0 << QString();
-    QTest::newRow("sound, plain pages") << packedFile(true) << -1 << 0 << QString();
-    QTest::newRow("other hardware") << packedFile() << 0x99 << 15 << QString();
-    QTest::newRow("name block") << damaged(image + 20) << -1 << 6 << "the name block";
-    QTest::newRow("size block") << damaged(image + 100) << -1 << 6 << "the size block";
-    QTest::newRow("page 2") << damaged(pages + record + 5) << -1 << 6 << "page 2";
-    QTest::newRow("page 3's label")
-        << damaged(pages + 2 * record + 2048 + 4) << -1 << 6 << "page 3";
-    QTest::newRow("trailer") << damaged(pages + 3 * record + 1) << -1 << 6 << "the trailer";
+    row("sound", packedFile(), -1, 0, QString());
+    row("sound, its hardware", packedFile(), 0x1234, 0, QString());
+    row("sound, plain pages", packedFile(true), -1, 0, QString());
+    row("other hardware", packedFile(), 0x99, 15, QString());
+    row("name block", damaged(image + 20), -1, 6, "the name block");
+    row("size block", damaged(image + 100), -1, 6, "the size block");
+    row("page 2", damaged(pages + record + 5), -1, 6, "page 2");
+    row("page 3's label", damaged(pages + 2 * record + 2048 + 4), -1, 6, "page 3");
+    row("trailer", damaged(pages + 3 * record + 1), -1, 6, "the trailer");
     QByteArray header = packedFile();
     header[5] = char(header[5] ^ 1);
-    QTest::newRow("header") << header << -1 << 14 << "the header";
-    QTest::newRow("cut short") << packedFile().left(2000) << -1 << 13 << "the header";
-    QTest::newRow("no firmware") << QByteArray(40, 'x') << -1 << 11 << "the header";
+    row("header", header, -1, 14, "the header");
+    row("cut short", packedFile().left(2000), -1, 13, "the header");
+    row("no firmware", QByteArray(40, 'x'), -1, 11, "the header");
 }
 
 void TestFwTool::damagedFile()
 {
-    QFETCH(QByteArray, file);
-    QFETCH(int, expectedHw1);
-    QFETCH(int, status);
-    QFETCH(QString, failing);
+    auto [file, expectedHw1, status, failing] =
+        fetch<QByteArray, int, int, QString>("file", "expectedHw1", "status", "failing");
 
     const FileReport report(file);
     const FwTool::Verdict verdict = FwTool::verdict(QStringLiteral("x.fw"), report, expectedHw1);

@@ -6,6 +6,7 @@
 #include "telecfg/controls/cfgspinbox.h"
 #include "telecfg/form/formbinder.h"
 #include "telecfg/dialogs/gui.h"
+#include "tests/support/datatable.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -128,44 +129,33 @@ void TestFormBinder::bindsSubclassesOfBoundControls()
 
 void TestFormBinder::explainsHidden_data()
 {
-    QTest::addColumn<QByteArray>("record");
-    QTest::addColumn<int>("hardwareId");
-    QTest::addColumn<int>("reason");
-    QTest::addColumn<QString>("text");
+    columns<QByteArray, int, int, QString>("record", "hardwareId", "reason", "text");
 
-    QTest::newRow("shown") << QByteArray(R"("minVersion": 12)") << 1 << int(HiddenReason::Shown)
-                           << "parameter 5 is shown";
-    QTest::newRow("no version range")
-        << QByteArray(R"("minVersion": {"3": 10}, "versionKey": 4)") << 1
-        << int(HiddenReason::NoVersionRange)
-        << "parameter 5 is hidden: the record has no version range (no lowest version under "
-           "version key 4 nor key 0), so it is shown from configuration version 99 on; the "
-           "configuration version is 12";
-    QTest::newRow("below")
-        << QByteArray(R"("minVersion": 13)") << 1 << int(HiddenReason::BelowVersionRange)
-        << "parameter 5 is hidden: configuration version 12 is below its lowest version 13";
-    QTest::newRow("above")
-        << QByteArray(R"("maxVersion": 11)") << 1 << int(HiddenReason::AboveVersionRange)
-        << "parameter 5 is hidden: configuration version 12 is above its highest version 11";
-    QTest::newRow("hardware")
-        << QByteArray(R"("hardware": [2, 3])") << 1 << int(HiddenReason::HardwareNotListed)
-        << "parameter 5 is hidden: hardware id 1 is not among its hardware ids 2, 3";
-    QTest::newRow("hardware listed") << QByteArray(R"("hardware": [2, 3])") << 3
-                                     << int(HiddenReason::Shown) << "parameter 5 is shown";
-    QTest::newRow("licence")
-        << QByteArray(R"("licence": 2)") << 1 << int(HiddenReason::ClosedByLicence)
-        << "parameter 5 is hidden: its licence gate 2 is above the licence level 1";
-    QTest::newRow("on request") << QByteArray(R"("hidden": true)") << 1
-                                << int(HiddenReason::HiddenOnRequest)
-                                << "parameter 5 is hidden: hidden on request (setHidden(true))";
+    row("shown", QByteArray(R"("minVersion": 12)"), 1, int(HiddenReason::Shown),
+        "parameter 5 is shown");
+    row("no version range", QByteArray(R"("minVersion": {"3": 10}, "versionKey": 4)"), 1,
+        int(HiddenReason::NoVersionRange),
+        "parameter 5 is hidden: the record has no version range (no lowest version under "
+        "version key 4 nor key 0), so it is shown from configuration version 99 on; the "
+        "configuration version is 12");
+    row("below", QByteArray(R"("minVersion": 13)"), 1, int(HiddenReason::BelowVersionRange),
+        "parameter 5 is hidden: configuration version 12 is below its lowest version 13");
+    row("above", QByteArray(R"("maxVersion": 11)"), 1, int(HiddenReason::AboveVersionRange),
+        "parameter 5 is hidden: configuration version 12 is above its highest version 11");
+    row("hardware", QByteArray(R"("hardware": [2, 3])"), 1, int(HiddenReason::HardwareNotListed),
+        "parameter 5 is hidden: hardware id 1 is not among its hardware ids 2, 3");
+    row("hardware listed", QByteArray(R"("hardware": [2, 3])"), 3, int(HiddenReason::Shown),
+        "parameter 5 is shown");
+    row("licence", QByteArray(R"("licence": 2)"), 1, int(HiddenReason::ClosedByLicence),
+        "parameter 5 is hidden: its licence gate 2 is above the licence level 1");
+    row("on request", QByteArray(R"("hidden": true)"), 1, int(HiddenReason::HiddenOnRequest),
+        "parameter 5 is hidden: hidden on request (setHidden(true))");
 }
 
 void TestFormBinder::explainsHidden()
 {
-    QFETCH(QByteArray, record);
-    QFETCH(int, hardwareId);
-    QFETCH(int, reason);
-    QFETCH(QString, text);
+    auto [record, hardwareId, reason, text] =
+        fetch<QByteArray, int, int, QString>("record", "hardwareId", "reason", "text");
     setGUILicenseLevel(1);
     ParameterTable parameters;
     QVERIFY(parameters.loadJson(R"({"version": 12, "parameters": [{"ref": 5, "value": 1, )" +

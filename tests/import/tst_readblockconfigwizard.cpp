@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/import/readblockconfigwizard.h"
 #include "tests/support/contexttranslator.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -135,12 +136,11 @@ private slots:
 
     void fuelPicks_data()
     {
-        QTest::addColumn<Picks>("picks");
-        QTest::addColumn<QList<int>>("sections");
+        columns<Picks, QList<int>>("picks", "sections");
 
-        QTest::newRow("tab 1 takes 3") << Picks{{1, 3}} << QList<int>{3, 2, 1, 4};
-        QTest::newRow("swap back") << Picks{{2, 3}, {2, 2}} << QList<int>{1, 2, 3, 4};
-        QTest::newRow("chain") << Picks{{1, 2}, {2, 4}, {3, 3}} << QList<int>{2, 4, 3, 1};
+        row("tab 1 takes 3", Picks{{1, 3}}, QList<int>{3, 2, 1, 4});
+        row("swap back", Picks{{2, 3}, {2, 2}}, QList<int>{1, 2, 3, 4});
+        row("chain", Picks{{1, 2}, {2, 4}, {3, 3}}, QList<int>{2, 4, 3, 1});
     }
 
     // The tab that held the section picked elsewhere takes the free one: the two swap.
@@ -167,12 +167,11 @@ private slots:
 
     void results_data()
     {
-        QTest::addColumn<int>("result");
-        QTest::addColumn<QString>("filePath");
+        columns<int, QString>("result", "filePath");
 
-        QTest::newRow("file chosen") << 0 << "nowy.cfg";
-        QTest::newRow("file cancelled") << 2 << "";
-        QTest::newRow("blocks closed") << 1 << "start.cfg";
+        row("file chosen", 0, "nowy.cfg");
+        row("file cancelled", 2, "");
+        row("blocks closed", 1, "start.cfg");
     }
 
     // The user ticks fuel and takes "nowy.cfg" (0), cancels the file dialog (2) or closes the

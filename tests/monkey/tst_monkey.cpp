@@ -23,6 +23,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QtTest>
+#include <algorithm>
 #include <cstdio>
 #include <random>
 #include <vector>
@@ -86,43 +87,34 @@ template <class Named> QVariant namesOf()
 // and malformed collections included.
 QVariant randomValue()
 {
-    switch (pick(17)) {
-    case 0:
-        return QVariant();
-    case 1:
-        return randomNumber();
-    case 2:
-        return -pick(100);
-    case 3:
-        return QString::number(qint64(qint32(randomNumber())) - pick(50));
-    case 4:
-        return randomText();
-    case 5:
-        return double(pick(1000)) / 8.0 - 20.0;
-    case 6:
-        return chance(50);
-    case 7:
-        return vectorOf<quint16>([] { return quint16(rng()); });
-    case 8:
-        return vectorOf<quint32>(randomNumber);
-    case 9:
-        return vectorOf<QString>(randomText);
-    case 10:
-        return vectorOf<QByteArray>(randomBytes);
-    case 11:
-        return vectorOf<QVector<QByteArray>>(
-            [] { return qvariant_cast<QVector<QByteArray>>(vectorOf<QByteArray>(randomBytes)); });
-    case 12:
-        return QVariant::fromValue(QList<uint>{uint(pick(4)), uint(pick(4))});
-    case 13:
-        return QStringList{randomText(), randomText()};
-    case 14:
-        return randomBytes();
-    case 15:
-        return namesOf<NamedUShort>();
-    default:
-        return namesOf<NamedUInt>();
-    }
+    static const std::function<QVariant()> makers[] = {
+        [] { return QVariant(); },
+        [] { return QVariant(randomNumber()); },
+        [] { return QVariant(-pick(100)); },
+        [] { return QVariant(QString::number(qint64(qint32(randomNumber())) - pick(50))); },
+        [] { return QVariant(randomText()); },
+        [] { return QVariant(double(pick(1000)) / 8.0 - 20.0); },
+        [] { return QVariant(chance(50)); },
+        [] { return vectorOf<quint16>([] { return quint16(rng()); }); },
+        [] { return vectorOf<quint32>(randomNumber); },
+        [] { return vectorOf<QString>(randomText); },
+        [] { return vectorOf<QByteArray>(randomBytes); },
+        [] {
+            return vectorOf<QVector<QByteArray>>([] {
+                return qvariant_cast<QVector<QByteArray>>(vectorOf<QByteArray>(randomBytes));
+            });
+        },
+        [] {
+            return QVariant::fromValue(QList<uint>{uint(pick(4)), uint(pick(4))});
+        },
+        [] {
+            return QVariant(QStringList{randomText(), randomText()});
+        },
+        [] { return QVariant(randomBytes()); },
+        namesOf<NamedUShort>,
+        namesOf<NamedUInt>,
+    };
+    return oneOf(makers)();
 }
 
 // A value of the type the record's type asks for, of the record's capacity or shorter.
@@ -130,33 +122,24 @@ QVariant fittingValue(int type, int capacity)
 {
     const int places = qMax(0, capacity - (chance(20) ? 1 : 0));
     const auto small = [] { return pick(3); };
-    switch (type) {
-    case 8:
+    const auto is = [type](std::initializer_list<int> types) {
+        return std::find(types.begin(), types.end(), type) != types.end();
+    };
+    if (type == 8)
         return vectorOf<quint16>(small, places);
-    case 24:
-    case 29:
+    if (is({24, 29}))
         return vectorOf<quint32>(small, places);
-    case 20:
+    if (type == 20)
         return vectorOf<QByteArray>(randomBytes, places);
-    case 13:
+    if (type == 13)
         return vectorOf<QString>(randomText, places);
-    case 0:
+    if (type == 0)
         return QVariant::fromValue(ColumnVectors(2, QVector<QByteArray>(places)));
-    case 3:
-    case 15:
-    case 18:
-    case 30:
+    if (is({3, 15, 18, 30}))
         return QString::number(pick(400) / 4.0);
-    case 10:
-    case 19:
+    if (is({10, 19}))
         return QStringLiteral("10.0.0.%1").arg(pick(300));
-    case 12:
-    case 16:
-    case 17:
-        return randomText();
-    default:
-        return uint(pick(20));
-    }
+    return is({12, 16, 17}) ? QVariant(randomText()) : QVariant(uint(pick(20)));
 }
 
 QMap<int, int> randomVersions()
@@ -284,6 +267,7 @@ private slots:
 
 private:
     void operate(int op);
+    void newForm();
     void place(Placed &slot);
     void bind(Placed &slot);
     void collectionOp(Placed &slot);
@@ -294,6 +278,18 @@ private:
     QPointer<QWidget> form;
     std::vector<Placed> placed;
 };
+
+// A fresh form with every kind placed and bound on it.
+void TestMonkey::newForm()
+{
+    form = new QWidget;
+    form->resize(200, 360);
+    form->show();
+    for (Placed &slot : placed) {
+        place(slot);
+        bind(slot);
+    }
+}
 
 void TestMonkey::place(Placed &slot)
 {
@@ -448,13 +444,7 @@ void TestMonkey::operate(int op)
         if (chance(5)) {
             form->deleteLater();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            form = new QWidget;
-            form->resize(200, 360);
-            form->show();
-            for (Placed &each : placed) {
-                place(each);
-                bind(each);
-            }
+            newForm();
         } else {
             slot.self->deleteLater();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -499,15 +489,9 @@ void TestMonkey::run()
     for (int ref = firstRef; ref < firstRef + refCount; ++ref)
         host.records[ref] = randomRecord(ref - firstRef);
     ModalCatcher catcher; // refusals are answered with OK
-    form = new QWidget;
-    form->resize(200, 360);
-    form->show();
     for (const QString &kind : anyControlKinds())
         placed.push_back(Placed{kind, {}, {}, {}, {}, 0});
-    for (Placed &slot : placed) {
-        place(slot);
-        bind(slot);
-    }
+    newForm();
 
     // The operations run from the event loop, as a host's code does: an object deleted later
     // then goes when the host's code returns, not inside a message box the library opens.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "telecfg/network/countrycode.h"
 #include "telecfg/network/countrytable.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 
@@ -88,9 +89,7 @@ void TestCountryCode::startsEmpty()
 
 void TestCountryCode::countryOperatorList_data()
 {
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<QStringList>("firstRows");
+    columns<QString, int, QStringList>("step", "rows", "firstRows");
 
     for (const char *how : {"", "#"}) {
         QTest::addRow("%s260", how)
@@ -105,9 +104,7 @@ void TestCountryCode::countryOperatorList_data()
 
 void TestCountryCode::countryOperatorList()
 {
-    QFETCH(QString, step);
-    QFETCH(int, rows);
-    QFETCH(QStringList, firstRows);
+    auto [step, rows, firstRows] = fetch<QString, int, QStringList>("step", "rows", "firstRows");
 
     Form f;
     Form::run(f.leCountry, f.cbCountry, {step});
@@ -129,16 +126,16 @@ void TestCountryCode::countryOperatorList()
 
 void TestCountryCode::chains_data()
 {
-    QTest::addColumn<QStringList>("countrySteps");
-    QTest::addColumn<QStringList>("operatorSteps");
-    QTest::addColumn<QString>("fields"); // country field '/' network field
-    QTest::addColumn<QString>("row");    // the network row shown
-    QTest::addColumn<uint>("data");      // its code; the row is the first of that code
+    // fields: country field '/' network field
+    // row: the network row shown
+    // data: its code; the row is the first of that code
+    columns<QStringList, QStringList, QString, QString, uint>("countrySteps", "operatorSteps",
+                                                              "fields", "row", "data");
 
     const auto row = [](const char *name, const QStringList &countrySteps,
                         const QStringList &operatorSteps, const QString &fields,
                         const QString &text, uint data) {
-        QTest::newRow(name) << countrySteps << operatorSteps << fields << text << data;
+        ::row(name, countrySteps, operatorSteps, fields, text, data);
     };
     const QString unknown = QStringLiteral("Nieznany");
     const QString all = QStringLiteral("Wszystkie");
@@ -169,11 +166,9 @@ void TestCountryCode::chains_data()
 
 void TestCountryCode::chains()
 {
-    QFETCH(QStringList, countrySteps);
-    QFETCH(QStringList, operatorSteps);
-    QFETCH(QString, fields);
-    QFETCH(QString, row);
-    QFETCH(uint, data);
+    auto [countrySteps, operatorSteps, fields, row, data] =
+        fetch<QStringList, QStringList, QString, QString, uint>("countrySteps", "operatorSteps",
+                                                                "fields", "row", "data");
 
     Form f;
     Form::run(f.leCountry, f.cbCountry, countrySteps);
@@ -189,15 +184,11 @@ void TestCountryCode::chains()
 
 void TestCountryCode::presetAndResult_data()
 {
-    QTest::addColumn<quint32>("preset");
-    QTest::addColumn<QString>("fields");
-    QTest::addColumn<QString>("row");
-    QTest::addColumn<quint32>("result");
+    columns<quint32, QString, QString, quint32>("preset", "fields", "row", "result");
 
     const auto row = [](const char *name, quint32 mcc, quint32 mnc, const QString &fields,
-                        const QString &text, quint32 result) {
-        QTest::newRow(name) << (mcc << 10 | mnc) << fields << text << result;
-    };
+                        const QString &text,
+                        quint32 result) { ::row(name, (mcc << 10 | mnc), fields, text, result); };
     const QString unknown = QStringLiteral("Nieznany");
     row("Poland 3", 260, 3, "260/3", "(3) Orange / PTK Centertel Sp. z o.o.", 260 << 10 | 3);
     row("all", 260, 998, "260/*", "Wszystkie", 260 << 10 | 998);
@@ -211,10 +202,8 @@ void TestCountryCode::presetAndResult_data()
 
 void TestCountryCode::presetAndResult()
 {
-    QFETCH(quint32, preset);
-    QFETCH(QString, fields);
-    QFETCH(QString, row);
-    QFETCH(quint32, result);
+    auto [preset, fields, row, result] =
+        fetch<quint32, QString, QString, quint32>("preset", "fields", "row", "result");
 
     Form f;
     f.dialog.setNetwork((202u << 10) | 1); // a preset over an earlier one

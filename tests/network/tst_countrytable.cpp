@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/network/countrytable.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QFile>
@@ -112,13 +113,10 @@ void TestCountryTable::duplicates()
 
 void TestCountryTable::networkNamesTexts_data()
 {
-    QTest::addColumn<quint32>("mcc");
-    QTest::addColumn<quint32>("mnc");
-    QTest::addColumn<QString>("country");
-    QTest::addColumn<QString>("op");
+    columns<quint32, quint32, QString, QString>("mcc", "mnc", "country", "op");
 
     const auto row = [](const char *name, quint32 mcc, quint32 mnc, const QString &country,
-                        const QString &op) { QTest::newRow(name) << mcc << mnc << country << op; };
+                        const QString &op) { ::row(name, mcc, mnc, country, op); };
     const QString unknown = QStringLiteral("Nieznany");
     row("Poland 1", 260, 1, "Polska", "Plus / Polkomtel S.A.");
     row("trailing blank", 260, 22, "Polska", "Arcomm / Arcomm Sp. z o.o. ");
@@ -137,10 +135,8 @@ void TestCountryTable::networkNamesTexts_data()
 
 void TestCountryTable::networkNamesTexts()
 {
-    QFETCH(quint32, mcc);
-    QFETCH(quint32, mnc);
-    QFETCH(QString, country);
-    QFETCH(QString, op);
+    auto [mcc, mnc, country, op] =
+        fetch<quint32, quint32, QString, QString>("mcc", "mnc", "country", "op");
 
     QString countryName = QStringLiteral("stale"), operatorName = QStringLiteral("stale");
     networkNames((mcc << 10) | mnc, countryName, operatorName);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/network/networkchooser.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 
 #include <QComboBox>
@@ -19,23 +20,17 @@ private slots:
 
 void TestNetworkChooser::choose_data()
 {
-    QTest::addColumn<quint32>("preset");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("operatorText"); // typed over the operator field; null = untouched
-    QTest::addColumn<QString>("shownCountry");
-    QTest::addColumn<qint64>("result"); // -1: nothing
+    // operatorText: typed over the operator field; null = untouched
+    // result: -1: nothing
+    columns<quint32, QString, QString, QString, qint64>("preset", "button", "operatorText",
+                                                        "shownCountry", "result");
 
-    QTest::newRow("preset kept") << ((260u << 10) | 1) << "pbOK" << QString() << "260"
-                                 << qint64((260u << 10) | 1);
-    QTest::newRow("operator typed") << ((260u << 10) | 1) << "pbOK"
-                                    << "6"
-                                    << "260" << qint64((260u << 10) | 6);
-    QTest::newRow("every operator")
-        << ((262u << 10) | 998) << "pbOK" << QString() << "262" << qint64((262u << 10) | 998);
-    QTest::newRow("cancel") << ((260u << 10) | 1) << "pbCancel"
-                            << "6"
-                            << "260" << qint64(-1);
-    QTest::newRow("no preset") << 0u << "pbCancel" << QString() << "" << qint64(-1);
+    row("preset kept", ((260u << 10) | 1), "pbOK", QString(), "260", qint64((260u << 10) | 1));
+    row("operator typed", ((260u << 10) | 1), "pbOK", "6", "260", qint64((260u << 10) | 6));
+    row("every operator", ((262u << 10) | 998), "pbOK", QString(), "262",
+        qint64((262u << 10) | 998));
+    row("cancel", ((260u << 10) | 1), "pbCancel", "6", "260", qint64(-1));
+    row("no preset", 0u, "pbCancel", QString(), "", qint64(-1));
 }
 
 void TestNetworkChooser::choose()
