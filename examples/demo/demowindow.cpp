@@ -7,6 +7,7 @@
 #include "ui_bluetoothpage.h"
 
 #include "telecfg/dialogs/gui.h"
+#include "telecfg/form/formstate.h"
 #include "telecfg/images/defaultimages.h"
 
 #include <QComboBox>
@@ -20,7 +21,6 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QTimer>
 #include <QToolBar>
 #include <utility>
 
@@ -28,7 +28,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     : QMainWindow(parent), table(demoTable), tabs(new QTabWidget(this))
 {
     initDefaultImages(); // the library's check box, radio button and arrow images
-    setWindowTitle(table->title);
+    setWindowTitle(table->title + QStringLiteral("[*]"));
     QToolBar *bar = addToolBar(tr("Urządzenie"));
     bar->setMovable(false);
 
@@ -75,14 +75,16 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     setCentralWidget(tabs);
     buildPages();
     refresh();
-    // After each edit the whole form follows (other choices of a radio group, the summary);
-    // queued, so it runs once the control has finished its own edit.
-    connect(table, &ParameterTable::valueChanged, this, [this]() {
-        if (!refreshQueued) {
-            refreshQueued = true;
-            QTimer::singleShot(0, this, &DemoWindow::refresh);
-        }
-    });
+    // The form follows every edit by itself; the window follows the form-wide state: Save
+    // and Revert only while something differs, the title marked, the summary up to date.
+    FormState *state = binder.state();
+    saveButton->setEnabled(state->isModified());
+    revertButton->setEnabled(state->isModified());
+    connect(state, &FormState::modifiedChanged, saveButton, &QWidget::setEnabled);
+    connect(state, &FormState::modifiedChanged, revertButton, &QWidget::setEnabled);
+    connect(state, &FormState::modifiedChanged, this, &QWidget::setWindowModified);
+    connect(state, &FormState::parameterChanged, this, &DemoWindow::showSummary);
+    connect(state, &FormState::reloaded, this, &DemoWindow::showSummary);
     resize(920, 560);
 }
 
@@ -140,26 +142,28 @@ int DemoWindow::hardwareId() const
 
 void DemoWindow::refresh()
 {
-    refreshQueued = false;
     binder.refresh(hardwareId());
+    showSummary();
+}
+
+void DemoWindow::showSummary()
+{
+    const FormState *state = binder.state();
     summary->setText(tr("Wersja %1, zmienione parametry: %2, błędne: %3")
                          .arg(table->version())
-                         .arg(table->modifiedParameters().size())
-                         .arg(table->invalidParameters().size()));
+                         .arg(state->modifiedParameters().size())
+                         .arg(state->invalidParameters().size()));
 }
 
 void DemoWindow::save()
 {
-    table->save();
+    binder.state()->save();
     refresh();
 }
 
 void DemoWindow::revert()
 {
-    table->revert();
-    binder.rebind(); // binding is what loads a value into a control; a refresh only repaints
-    table->revert(); // undo what the controls echoed back while being bound
-    refresh();
+    binder.state()->revert(); // every control shows its stored value again
 }
 
 void DemoWindow::versionChosen(int index)

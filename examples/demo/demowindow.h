@@ -31,6 +31,7 @@ public slots:
 private slots:
     void save();
     void revert();
+    void showSummary();
     void versionChosen(int index);
     void licenceChosen(int level);
 
@@ -46,5 +47,4 @@ private:
     QLabel *summary;
     DeviceMenu *deviceMenu;
     FormBinder binder;
-    bool refreshQueued = false;
 };
