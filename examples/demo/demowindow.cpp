@@ -8,6 +8,7 @@
 
 #include "telecfg/dialogs/gui.h"
 #include "telecfg/form/formstate.h"
+#include "telecfg/form/parameterbrowser.h"
 #include "telecfg/images/defaultimages.h"
 
 #include <QComboBox>
@@ -133,6 +134,9 @@ void DemoWindow::buildPages()
     }
     for (const FormBinder::Problem &problem : binder.bind(tabs, table))
         qWarning("demo: %s", qPrintable(problem.text()));
+    // Every parameter in one searchable view, editing the same table as the pages.
+    browser = new ParameterBrowser(binder.state(), tabs);
+    tabs->addTab(browser, tr("Wszystkie parametry"));
 }
 
 int DemoWindow::hardwareId() const
@@ -143,6 +147,7 @@ int DemoWindow::hardwareId() const
 void DemoWindow::refresh()
 {
     binder.refresh(hardwareId());
+    browser->setHardwareId(hardwareId());
     showSummary();
 }
 

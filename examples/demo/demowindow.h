@@ -8,6 +8,7 @@
 
 class DemoTable;
 class DeviceMenu;
+class ParameterBrowser;
 class QComboBox;
 class QLabel;
 class QSpinBox;
@@ -47,4 +48,5 @@ private:
     QLabel *summary;
     DeviceMenu *deviceMenu;
     FormBinder binder;
+    ParameterBrowser *browser = nullptr;
 };

@@ -317,6 +317,11 @@ void ParameterTable::setGroup(int ref, int group)
     d->entries[ref].group = group;
 }
 
+int ParameterTable::group(int ref) const
+{
+    return d->entries.value(ref).group;
+}
+
 quint32 ParameterTable::version() const
 {
     return d->records.value(2).value.toUInt();

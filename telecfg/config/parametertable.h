@@ -133,6 +133,10 @@ public:
     /// @param ref the parameter number.
     /// @param group the group; 0 takes the record out of its group.
     void setGroup(int ref, int group);
+    /// The radio group of a record.
+    /// @param ref the parameter number.
+    /// @return the group given to setGroup(); 0 for none.
+    int group(int ref) const;
 
     /// The configuration version (the value of parameter 2).
     /// @return the version.
