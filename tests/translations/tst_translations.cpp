@@ -4,9 +4,11 @@
 // box and country name reads English; without it every text stays the Polish source text.
 // The English dialogs are rendered to PNG files beside the test for a look.
 #include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/config/parametertable.h"
 #include "telecfg/dialogs/cmddialog.h"
 #include "telecfg/dialogs/dualinputdlg.h"
 #include "telecfg/dialogs/skipreaddatadialog.h"
+#include "telecfg/form/changereview.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrycode.h"
 #include "telecfg/network/countrytable.h"
@@ -24,6 +26,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QTranslator>
+#include <QTreeView>
 #include <QXmlStreamReader>
 #include <QtTest>
 #include <memory>
@@ -142,6 +145,7 @@ void TestTranslations::dialog_data()
         {"dualinputdlg", "Dialog", "Dialog"},
         {"skipreaddatadialog", "Odczyt - pomijane dane", "Reading - data to skip"},
         {"countrycode", "Sieć komórkowa", "Mobile network"},
+        {"changereview", "Przegląd zmian", "Review changes"},
         {"readblockconfigwizard", "Import konfiguracji z pliku",
          "Import configuration from a file"},
     };
@@ -167,6 +171,17 @@ void TestTranslations::dialog()
         dialog.reset(new SkipReadDataDialog(nullptr, true, false, true, false, false));
     else if (name == "countrycode")
         dialog.reset(new CountryCode);
+    ParameterTable table;
+    if (name == "changereview") {
+        QVERIFY(table.loadJson(R"({"parameters": [{"ref": 10, "type": 8, "capacity": 4,
+                                   "value": [1, 3, 4], "stored": [1, 2]}]})"));
+        dialog.reset(new ChangeReview(&table));
+        // Polish chooses among three plural forms, English between two.
+        const QString summary =
+            dialog->findChild<QTreeView *>()->model()->index(0, 2).data().toString();
+        QCOMPARE(summary, english ? QStringLiteral("3 elements: 2 added, 1 removed")
+                                  : QStringLiteral("3 elementy: 2 dodane, 1 usunięty"));
+    }
     if (dialog) {
         dialog->show();
         check(dialog.get(), title, english, name);
