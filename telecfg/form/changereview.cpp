@@ -55,7 +55,8 @@ bool closeAfterQuestion(QWidget *window, ParameterTable &table, const std::funct
     QStringList lines;
     const QList<Change> changes =
         changesOf(table, refs, [&table](int ref) { return table.storedValue(ref); });
-    for (const Change &change : changes.mid(0, listedInQuestion))
+    const QList<Change> listed = changes.mid(0, listedInQuestion);
+    for (const Change &change : listed)
         lines.append(
             ChangeReview::tr("%1: %2 → %3").arg(change.name, change.stored, change.current));
     if (changes.size() > listedInQuestion)

@@ -93,7 +93,7 @@ QString elementText(MainConfigIFace &table, const MainConfigObject &record, cons
         return networkText(element.toUInt());
     case E::UShort: {
         const auto names = record.valueNames.value<QList<NamedUShort>>();
-        const QString named =
+        QString named =
             names.isEmpty() ? QString() : table.nameOfUShort(quint16(element.toUInt()), names);
         if (!named.isEmpty())
             return named;
@@ -101,8 +101,7 @@ QString elementText(MainConfigIFace &table, const MainConfigObject &record, cons
     }
     case E::UInt: {
         const auto names = record.valueNames.value<QList<NamedUInt>>();
-        const QString named =
-            names.isEmpty() ? QString() : table.nameOfUInt(element.toUInt(), names);
+        QString named = names.isEmpty() ? QString() : table.nameOfUInt(element.toUInt(), names);
         if (!named.isEmpty()) // else unnamed: the number itself
             return named;
         break;
@@ -149,7 +148,7 @@ QString text(MainConfigIFace &table, int ref, const QVariant &value)
         return statecue::checkedWords(parametervalues::sameValue(value, record.minimum));
     if (isCheckBox(record, control) || value.userType() == QMetaType::Bool)
         return statecue::checkedWords(value.toBool());
-    const QString shown = value.toString();
+    QString shown = value.toString();
     for (const auto &option : record.options)
         if (option.second == shown)
             return option.first;

@@ -175,7 +175,7 @@ void TestTranslations::dialog()
     if (name == "changereview") {
         QVERIFY(table.loadJson(R"({"parameters": [{"ref": 10, "type": 8, "capacity": 4,
                                    "value": [1, 3, 4], "stored": [1, 2]}]})"));
-        dialog.reset(new ChangeReview(&table));
+        dialog = std::make_unique<ChangeReview>(&table);
         // Polish chooses among three plural forms, English between two.
         const QString summary =
             dialog->findChild<QTreeView *>()->model()->index(0, 2).data().toString();
