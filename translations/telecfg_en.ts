@@ -56,6 +56,69 @@
     </message>
 </context>
 <context>
+    <name>ChangeReview</name>
+    <message>
+        <source>Przegląd zmian</source>
+        <translation>Review changes</translation>
+    </message>
+    <message>
+        <source>Te zmiany zostaną zapisane. Odznacz te, których nie chcesz zapisać: wrócą do zapisanej wartości.</source>
+        <translation>These changes will be saved. Uncheck those you do not want to save: they return to the stored value.</translation>
+    </message>
+    <message>
+        <source>Zmienione parametry</source>
+        <translation>Changed parameters</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message>
+        <source>…i jeszcze %1</source>
+        <translation>…and %1 more</translation>
+    </message>
+    <message>
+        <source>Niezapisane zmiany</source>
+        <translation>Unsaved changes</translation>
+    </message>
+    <message>
+        <source>Zapisać zmiany przed zamknięciem?</source>
+        <translation>Save the changes before closing?</translation>
+    </message>
+    <message>
+        <source>Zapisz</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Odrzuć zmiany</source>
+        <translation>Discard changes</translation>
+    </message>
+    <message>
+        <source>Anuluj</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Zatwierdź</source>
+        <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>Parametr</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Zapisana wartość</source>
+        <translation>Stored value</translation>
+    </message>
+    <message>
+        <source>Nowa wartość</source>
+        <translation>New value</translation>
+    </message>
+    <message>
+        <source>Zmienione parametry: %1, wybrane: %2</source>
+        <translation>Changed parameters: %1, chosen: %2</translation>
+    </message>
+</context>
+<context>
     <name>CmdDialog</name>
     <message>
         <source>Dialog</source>
@@ -1166,6 +1229,113 @@
     <message>
         <source>odrzucona przez urządzenie</source>
         <translation>refused by the device</translation>
+    </message>
+</context>
+<context>
+    <name>ValueText</name>
+    <message numerus="yes">
+        <source>%n element</source>
+        <comment>one</comment>
+        <translation>
+            <numerusform>%n element</numerusform>
+            <numerusform>%n elements</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elementy</source>
+        <comment>few</comment>
+        <translation>
+            <numerusform>%n element</numerusform>
+            <numerusform>%n elements</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elementów</source>
+        <comment>many</comment>
+        <translation>
+            <numerusform>%n element</numerusform>
+            <numerusform>%n elements</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dodany</source>
+        <comment>one</comment>
+        <translation>
+            <numerusform>%n added</numerusform>
+            <numerusform>%n added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dodane</source>
+        <comment>few</comment>
+        <translation>
+            <numerusform>%n added</numerusform>
+            <numerusform>%n added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dodanych</source>
+        <comment>many</comment>
+        <translation>
+            <numerusform>%n added</numerusform>
+            <numerusform>%n added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n usunięty</source>
+        <comment>one</comment>
+        <translation>
+            <numerusform>%n removed</numerusform>
+            <numerusform>%n removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n usunięte</source>
+        <comment>few</comment>
+        <translation>
+            <numerusform>%n removed</numerusform>
+            <numerusform>%n removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n usuniętych</source>
+        <comment>many</comment>
+        <translation>
+            <numerusform>%n removed</numerusform>
+            <numerusform>%n removed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zmieniony</source>
+        <comment>one</comment>
+        <translation>
+            <numerusform>%n changed</numerusform>
+            <numerusform>%n changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zmienione</source>
+        <comment>few</comment>
+        <translation>
+            <numerusform>%n changed</numerusform>
+            <numerusform>%n changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n zmienionych</source>
+        <comment>many</comment>
+        <translation>
+            <numerusform>%n changed</numerusform>
+            <numerusform>%n changed</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>zmieniona kolejność</source>
+        <translation>order changed</translation>
+    </message>
+    <message>
+        <source>Parametr %1</source>
+        <translation>Parameter %1</translation>
     </message>
 </context>
 </TS>

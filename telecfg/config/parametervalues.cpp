@@ -306,6 +306,45 @@ QList<int> invalidElements(const MainConfigObject &object, bool numericCells)
     return places;
 }
 
+QVariantList occupiedElements(const MainConfigObject &object, const QVariant &value)
+{
+    QVariantList elements = placesOf(object, value);
+    elements.erase(std::remove_if(elements.begin(), elements.end(), isEmptyElement),
+                   elements.end());
+    return elements;
+}
+
+ElementChanges elementChanges(const MainConfigObject &object, const QVariant &current,
+                              const QVariant &stored)
+{
+    const bool table = shapeOf(object) == Shape::Table;
+    auto key = [table](const QVariant &element) {
+        return table ? element.toList().value(0) : element;
+    };
+    // The element of `elements` with the key of `element`, or an invalid one.
+    auto match = [&key](const QVariantList &elements, const QVariant &element) {
+        for (const QVariant &candidate : elements)
+            if (sameValue(key(candidate), key(element)))
+                return candidate;
+        return QVariant();
+    };
+    const QVariantList now = occupiedElements(object, current);
+    const QVariantList before = occupiedElements(object, stored);
+    ElementChanges changes;
+    changes.count = int(now.size());
+    for (const QVariant &element : now) {
+        const QVariant old = match(before, element);
+        if (!old.isValid())
+            ++changes.added;
+        else if (!sameValue(old, element))
+            ++changes.changed;
+    }
+    for (const QVariant &element : before)
+        if (!match(now, element).isValid())
+            ++changes.removed;
+    return changes;
+}
+
 bool containsElement(const MainConfigObject &object, const QVariant &collection,
                      const QVariant &element)
 {

@@ -33,6 +33,20 @@ QList<int> differingElements(const MainConfigObject &object, const QVariant &cur
 // Places of a collection whose element is invalid: a repeated element (for a table a
 // repeated row identifier) or, with `numericCells`, a table cell that is no number.
 QList<int> invalidElements(const MainConfigObject &object, bool numericCells);
+// The elements of a collection value by place (a table's rows, each a list of its cells),
+// free places left out.
+QVariantList occupiedElements(const MainConfigObject &object, const QVariant &value);
+// How a collection's current value differs from its stored one: elements are matched by
+// value (a table's rows by their identifier, the first cell); free places count for nothing.
+struct ElementChanges
+{
+    int count = 0;   // occupied places of the current value
+    int added = 0;   // current elements the stored value does not hold
+    int removed = 0; // stored elements the current value no longer holds
+    int changed = 0; // table rows held by both whose other cells differ
+};
+ElementChanges elementChanges(const MainConfigObject &object, const QVariant &current,
+                              const QVariant &stored);
 // Whether a stored collection holds the element (for a table: the row identifier).
 bool containsElement(const MainConfigObject &object, const QVariant &collection,
                      const QVariant &element);

@@ -131,7 +131,7 @@ QString plainText(QString text)
 
 QString labelText(QWidget *control, QWidget *label)
 {
-    if (!label) {
+    if (!label && control) {
         const QList<QLabel *> labels = control->window()->findChildren<QLabel *>();
         for (QLabel *candidate : labels)
             if (candidate->buddy() == control)
@@ -242,9 +242,9 @@ void present(QWidget *control, const Presentation &presentation, Memo &memo)
         control->setAccessibleDescription(tip);
 }
 
-void nameAfterLabel(QWidget *control, QWidget *label)
+QString shownName(QWidget *control, QWidget *label)
 {
-    QString name = labelText(control, label);
+    QString name = control || label ? labelText(control, label) : QString();
     if (auto *button = qobject_cast<QAbstractButton *>(control)) {
         const QString own = plainText(button->text());
         if (name.isEmpty())
@@ -252,6 +252,12 @@ void nameAfterLabel(QWidget *control, QWidget *label)
         else if (!own.isEmpty() && own != name)
             name += QStringLiteral(": ") + own;
     }
+    return name;
+}
+
+void nameAfterLabel(QWidget *control, QWidget *label)
+{
+    const QString name = shownName(control, label);
     if (!name.isEmpty() && control->accessibleName() != name)
         control->setAccessibleName(name);
 }

@@ -48,8 +48,11 @@ struct Memo
 // technology). Changes nothing that is already so.
 void present(QWidget *control, const Presentation &presentation, Memo &memo);
 
-// The accessible name of a bound control: the text of its label (the one given at binding,
-// else the label whose buddy it is), with a button's own text after it.
+// The name a bound control shows the user: the text of its label (the one given at binding,
+// else the label whose buddy it is) without mnemonic marks and trailing colon, with a
+// button's own text after it. Either widget may be null; empty when neither tells a name.
+QString shownName(QWidget *control, QWidget *label);
+// Makes shownName() the control's accessible name.
 void nameAfterLabel(QWidget *control, QWidget *label);
 
 // The line the tool tip and the accessible description gain for a state ("" when normal).

@@ -2,14 +2,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "telecfg/config/mainconfig.h"
-
 #include <QString>
+#include <QStringList>
+#include <QVariant>
 
-// Internal to the library. A parameter and its values as the user reads them.
+class MainConfigIFace;
+
+// Internal to the library: a parameter's name and values as the user reads them, for
+// whatever lists parameters outside their controls (the change review, the question before
+// closing).
 namespace valuetext {
-// The parameter's name: its label's text, else the name the table gives it, else its number.
+
+// The name the user knows the parameter by: its bound control's label (with a button's own
+// text), else the label and text the table's presentation gives, else "Parametr <number>".
 QString name(MainConfigIFace &table, int ref);
-// A value of the parameter: an option's text where the record has options, else the value's.
+
+// A value of the parameter as the user reads it: a check box's or radio button's state in
+// words, an option's text, a collection's element count, anything else as it is. Empty for
+// an invalid value.
 QString text(MainConfigIFace &table, int ref, const QVariant &value);
+
+// The current value of a changed parameter as the user reads it: for a collection its count
+// and what differs from `stored` ("3 elementy: 1 dodany, 1 usunięty"), else text().
+QString changeText(MainConfigIFace &table, int ref, const QVariant &stored,
+                   const QVariant &current);
+
+// A collection's elements as the user reads them, in place order without the free places:
+// network names, named numbers, a table row's cells; empty for a value that is no collection.
+QStringList elementTexts(MainConfigIFace &table, int ref, const QVariant &value);
+
 } // namespace valuetext

@@ -4,9 +4,11 @@
 // box and country name reads English; without it every text stays the Polish source text.
 // The English dialogs are rendered to PNG files beside the test for a look.
 #include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/config/parametertable.h"
 #include "telecfg/dialogs/cmddialog.h"
 #include "telecfg/dialogs/dualinputdlg.h"
 #include "telecfg/dialogs/skipreaddatadialog.h"
+#include "telecfg/form/changereview.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrycode.h"
 #include "telecfg/network/countrytable.h"
@@ -25,6 +27,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QTranslator>
+#include <QTreeView>
 #include <QXmlStreamReader>
 #include <QtTest>
 #include <memory>
@@ -125,6 +128,7 @@ void TestTranslations::dialog_data()
     row("dualinputdlg", "dualinputdlg", "Dialog");
     row("skipreaddatadialog", "skipreaddatadialog", "Reading - data to skip");
     row("countrycode", "countrycode", "Mobile network");
+    row("changereview", "changereview", "Review changes");
     row("readblockconfigwizard", "readblockconfigwizard", "Import configuration from a file");
 }
 
@@ -142,6 +146,16 @@ void TestTranslations::dialog()
         dialog.reset(new SkipReadDataDialog(nullptr, true, false, true, false, false));
     else if (name == "countrycode")
         dialog.reset(new CountryCode);
+    ParameterTable table;
+    if (name == "changereview") {
+        QVERIFY(table.loadJson(R"({"parameters": [{"ref": 10, "type": 8, "capacity": 4,
+                                   "value": [1, 3, 4], "stored": [1, 2]}]})"));
+        dialog = std::make_unique<ChangeReview>(&table);
+        // Polish chooses among three plural forms, English between two.
+        const QString summary =
+            dialog->findChild<QTreeView *>()->model()->index(0, 2).data().toString();
+        QCOMPARE(summary, QStringLiteral("3 elements: 2 added, 1 removed"));
+    }
     if (dialog) {
         dialog->show();
         check(dialog.get(), title, name);
