@@ -6,6 +6,7 @@
 /// Everything telecfg offers its hosts, in one include.
 
 // Everything telecfg offers its hosts, in one include.
+#include "telecfg/collections/cfglisteditor.h"
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
@@ -18,7 +19,6 @@
 #include "telecfg/controls/cfglineedit.h"
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/cfgspinbox.h"
-#include "telecfg/form/formbinder.h"
 #include "telecfg/controls/statecolours.h"
 #include "telecfg/controls/visibility.h"
 #include "telecfg/dialogs/cmddialog.h"
@@ -28,6 +28,7 @@
 #include "telecfg/dialogs/statuslabel.h"
 #include "telecfg/firmware/checksums.h"
 #include "telecfg/firmware/firmware.h"
+#include "telecfg/form/formbinder.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/network/networkchooser.h"
