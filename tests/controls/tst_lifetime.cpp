@@ -138,6 +138,8 @@ void TestLifetime::deletedFromItsOwnSignal_data()
     QTest::addColumn<QString>("kind");
     QTest::addColumn<bool>("wholeForm");
     for (const QString &kind : anyControlKinds()) {
+        if (!makeAnyControl(kind).editSignal)
+            continue; // a kind with no signal of its own (the list editor: its list is "list")
         QTest::addRow("%s: control", qPrintable(kind)) << kind << false;
         QTest::addRow("%s: form", qPrintable(kind)) << kind << true;
     }
