@@ -109,6 +109,12 @@ TelecfgDesignerPlugin::TelecfgDesignerPlugin(QObject *parent) : QObject(parent)
                         "the host's buttons call addValue and remove. Widgets named "
                         "cfg_<number>_<anything> hide with it."),
          QString()},
+        {"CfgListEditor", QStringLiteral("\u2261+"),
+         QStringLiteral("List editor with its own Add and Remove buttons"),
+         QStringLiteral("A list of a collection parameter's elements with \"Dodaj\u2026\" and "
+                        "\"Usu\u0144\": Add asks with an input that fits the element type, "
+                        "Remove removes the selection."),
+         QString()},
         {"CfgTableWidget", QStringLiteral("\u25A6"),
          QStringLiteral("Table editor bound to a table parameter"),
          QStringLiteral("A table of a table parameter's rows (one column vector per column), "

@@ -6,6 +6,7 @@
 /// Everything telecfg offers its hosts, in one include.
 
 // Everything telecfg offers its hosts, in one include.
+#include "telecfg/collections/cfglisteditor.h"
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"

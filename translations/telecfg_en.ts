@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="pl">
 <context>
+    <name>CfgListEditor</name>
+    <message>
+        <source>Dodaj…</source>
+        <translation>Add…</translation>
+    </message>
+    <message>
+        <source>Dodaj element</source>
+        <translation>Add element</translation>
+    </message>
+    <message>
+        <source>Usuń</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Usuń zaznaczone elementy</source>
+        <translation>Remove selected elements</translation>
+    </message>
+    <message>
+        <source>Lista jest pełna</source>
+        <translation>The list is full</translation>
+    </message>
+    <message>
+        <source>Nic nie zaznaczono</source>
+        <translation>Nothing selected</translation>
+    </message>
+    <message>
+        <source>Nowy element</source>
+        <translation>New element</translation>
+    </message>
+    <message>
+        <source>Wartość (%1–%2):</source>
+        <translation>Value (%1–%2):</translation>
+    </message>
+    <message>
+        <source>Nazwa:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Tekst:</source>
+        <translation>Text:</translation>
+    </message>
+    <message>
+        <source>Tekst (długość do %1):</source>
+        <translation>Text (length up to %1):</translation>
+    </message>
+</context>
+<context>
     <name>CfgListWidget</name>
     <message>
         <source>Nowy element</source>

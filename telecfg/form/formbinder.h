@@ -17,11 +17,11 @@ class FormState;
 /// @file
 /// Binding every control of a designed form in one call.
 
-/// Binds a designed form in one call. Every bound control (the six value controls and the
-/// two collection editors) whose object name is `cfg_<parameter number>` is bound to that
-/// parameter; the QLabel whose buddy it is becomes its label and hides with it. A widget named
-/// `cfg_<number>_<anything>` (the buttons of a list, say) hides with the control of that
-/// parameter too.
+/// Binds a designed form in one call. Every bound control (the six value controls, the two
+/// collection editors and the list editor with its buttons) whose object name is
+/// `cfg_<parameter number>` is bound to that parameter; the QLabel whose buddy it is becomes
+/// its label and hides with it. A widget named `cfg_<number>_<anything>` (the buttons of a
+/// list, say) hides with the control of that parameter too.
 ///
 /// @code
 /// FormBinder binder;

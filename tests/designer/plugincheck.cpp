@@ -42,6 +42,7 @@ void TestDesignerPlugin::offersTheWidgets()
         {"CfgDoubleSpinBox", "telecfg/controls/cfgdoublespinbox.h"},
         {"CfgRadioButton", "telecfg/controls/cfgradiobutton.h"},
         {"CfgListWidget", "telecfg/collections/cfglistwidget.h"},
+        {"CfgListEditor", "telecfg/collections/cfglisteditor.h"},
         {"CfgTableWidget", "telecfg/collections/cfgtablewidget.h"},
         {"StatusLabel", "telecfg/dialogs/statuslabel.h"},
     };

@@ -162,7 +162,8 @@ MainConfigObject randomRecord(int home)
                                                     {3, 21},
                                                     {4},
                                                     {8, 24, 29, 20, 13},
-                                                    {0}};
+                                                    {0},
+                                                    {8, 24, 29, 20, 13}};
     MainConfigObject object;
     const QVector<int> &own = homeTypes.at(qBound(0, home, homeTypes.size() - 1));
     object.type = chance(70) ? own.at(pick(own.size())) : oneOf(types);
@@ -239,7 +240,7 @@ private:
 };
 
 const int firstRef = 10;
-const int refCount = 8;
+const int refCount = 9; // one home record per kind of control
 
 // One control on the form with the label and related widget the host gave it.
 struct Placed

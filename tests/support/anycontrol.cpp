@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/anycontrol.h"
 
+#include "telecfg/collections/cfglisteditor.h"
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
@@ -19,7 +20,8 @@
 
 QStringList anyControlKinds()
 {
-    return valueControlKinds() + QStringList{QStringLiteral("list"), QStringLiteral("table")};
+    return valueControlKinds() + QStringList{QStringLiteral("list"), QStringLiteral("table"),
+                                             QStringLiteral("listeditor")};
 }
 
 QStringList valueControlKinds()
@@ -113,6 +115,11 @@ AnyControl makeAnyControl(const QString &kind)
                 const QString id = QString::number(table->rowCount() + 1);
                 table->addValue(QVariant(QStringList{id, id}), ref);
             });
+    // The editor has no signal of its own: its list's signals are the list's.
+    if (kind == QLatin1String("listeditor"))
+        return makeCollection<CfgListEditor>(nullptr, [](CfgListEditor *editor, int ref) {
+            editor->list()->addValue(QVariant(uint(editor->list()->count() + 1)), ref);
+        });
     qFatal("unknown control kind %s", qPrintable(kind));
     return {};
 }
@@ -139,7 +146,7 @@ MainConfigObject &addEditableRecord(TestHost &host, const QString &kind, int ref
     } else if (kind == QLatin1String("radiobutton")) {
         object.type = 4;
         object.minimum = 3u;
-    } else if (kind == QLatin1String("list")) {
+    } else if (kind == QLatin1String("list") || kind == QLatin1String("listeditor")) {
         object.type = 24;
         object.value = QVariant::fromValue(QVector<quint32>(4));
     } else if (kind == QLatin1String("table")) {
