@@ -247,6 +247,76 @@
     </message>
 </context>
 <context>
+    <name>ParameterBrowser</name>
+    <message>
+        <source>Szukaj: numer, nazwa, opis, opcja</source>
+        <translation>Search: number, name, description, option</translation>
+    </message>
+    <message>
+        <source>Szukaj parametru</source>
+        <translation>Search for a parameter</translation>
+    </message>
+    <message>
+        <source>Tylko zmienione</source>
+        <translation>Changed only</translation>
+    </message>
+    <message>
+        <source>Tylko widoczne dla urządzenia</source>
+        <translation>Shown for this device only</translation>
+    </message>
+    <message>
+        <source>Tylko nieprawidłowe</source>
+        <translation>Invalid only</translation>
+    </message>
+    <message>
+        <source>Strona</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Wszystkie strony</source>
+        <translation>All pages</translation>
+    </message>
+    <message>
+        <source>Parametry</source>
+        <translation>Parameters</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterModel</name>
+    <message>
+        <source>Nieprawidłowy</source>
+        <translation>Invalid</translation>
+    </message>
+    <message>
+        <source>Zmieniony</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>Ukryty</source>
+        <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>Numer</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Nazwa</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Wartość</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Zapisana wartość</source>
+        <translation>Stored value</translation>
+    </message>
+    <message>
+        <source>Stan</source>
+        <translation>State</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Nieznany</source>
