@@ -91,6 +91,9 @@ public slots:
 
 protected:
     /// Follows the list's enabled state (a host may disable the list itself).
+    /// @param watched the object whose event arrives.
+    /// @param event the event.
+    /// @return true when the event was taken.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

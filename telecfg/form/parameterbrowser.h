@@ -52,6 +52,10 @@ public:
     QLineEdit *searchField() const;
 
 protected:
+    /// Takes the view's keys: Enter edits, letters and digits go on the search.
+    /// @param watched the object whose event arrives.
+    /// @param event the event.
+    /// @return true when the event was taken.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -44,6 +44,10 @@ public:
     QString searchText() const { return text; }
 
 protected:
+    /// Whether a row passes the search words and the toggles.
+    /// @param sourceRow the row in the model.
+    /// @param sourceParent its parent (the root).
+    /// @return true when the row is shown.
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:

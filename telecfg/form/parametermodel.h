@@ -67,13 +67,23 @@ public:
     /// @return its number, or 0 outside the rows.
     int parameterAt(int row) const;
 
+    /// One row per parameter. @param parent the root. @return the number of parameters.
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    /// @param parent the root. @return ColumnCount.
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    /// The texts of the columns and the roles above.
+    /// @param index the cell. @param role the role. @return the data; invalid where none.
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    /// The column titles.
+    /// @param section the column. @param orientation horizontal for titles.
+    /// @param role the role. @return the title.
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+    /// The value column is editable. @param index the cell. @return its flags.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     /// Writes an edited value through the table (Qt::EditRole of the value column).
+    /// @param index the cell. @param value the new value. @param role Qt::EditRole.
+    /// @return true when written.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 private:
