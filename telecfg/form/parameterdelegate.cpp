@@ -26,7 +26,8 @@ const char parameterProperty[] = "telecfg_parameter";
 const BoundKind *boundKind(const QString &kind)
 {
     const QString className = QStringLiteral("cfg") + kind;
-    for (const BoundKind *bound : BoundKind::all())
+    const QList<const BoundKind *> kinds = BoundKind::all();
+    for (const BoundKind *bound : kinds)
         if (QLatin1String(bound->metaObject->className()).compare(className, Qt::CaseInsensitive) ==
             0)
             return bound;
@@ -60,7 +61,8 @@ QList<int> groupOf(ParameterTable *table, int ref)
     if (group == 0)
         return {ref};
     QList<int> members;
-    for (int member : table->parameters())
+    const QList<int> refs = table->parameters();
+    for (int member : refs)
         if (table->group(member) == group)
             members.append(member);
     return members;
@@ -75,7 +77,7 @@ ParameterDelegate::ParameterDelegate(ParameterModel *model, QObject *parent)
 QString ParameterDelegate::kindOf(ParameterModel *model, int ref)
 {
     if (ParameterTable *ready = model->state()->parameterTable()) {
-        const QString kind = ready->presentation(ref).control;
+        QString kind = ready->presentation(ref).control;
         if (!kind.isEmpty())
             return kind;
     }
@@ -112,7 +114,8 @@ QWidget *ParameterDelegate::createEditor(QWidget *parent, const QStyleOptionView
     if (kind == QLatin1String("radiobutton")) {
         // The group's choices as a list: each member's text, written as its value.
         auto *choices = new QComboBox(parent);
-        for (int member : groupOf(ready, ref)) {
+        const QList<int> members = groupOf(ready, ref);
+        for (int member : members) {
             const QString text = ready ? ready->presentation(member).text : QString();
             choices->addItem(text.isEmpty() ? valuetext::name(table, member) : text,
                              table.object(member).minimum);

@@ -43,11 +43,11 @@ void ParameterFilter::setInvalidOnly(bool on)
     changed();
 }
 
-void ParameterFilter::setPage(const QString &name)
+void ParameterFilter::setPage(const QString &page)
 {
-    if (name == page)
+    if (page == pageName)
         return;
-    page = name;
+    pageName = page;
     changed();
 }
 
@@ -66,7 +66,7 @@ bool ParameterFilter::filterAcceptsRow(int sourceRow, const QModelIndex &sourceP
         return false;
     if (shownOnly && !index.data(Role::ShownRole).toBool())
         return false;
-    if (!page.isEmpty() && index.data(Role::PageRole).toString() != page)
+    if (!pageName.isEmpty() && index.data(Role::PageRole).toString() != pageName)
         return false;
     if (words.isEmpty())
         return true;

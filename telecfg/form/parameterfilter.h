@@ -55,7 +55,7 @@ private:
 
     QString text;
     QStringList words;
-    QString page;
+    QString pageName;
     bool changedOnly = false;
     bool shownOnly = false;
     bool invalidOnly = false;
