@@ -153,7 +153,14 @@ CfgListEditor::CfgListEditor(QWidget *parent) : QWidget(parent), d(std::make_uni
     updateButtons();
 }
 
-CfgListEditor::~CfgListEditor() = default;
+CfgListEditor::~CfgListEditor()
+{
+    // The list goes with the QWidget base, after this part of the object is gone: from here on
+    // neither the list nor its model may call back into it.
+    d->list->removeEventFilter(this);
+    disconnect(d->list, nullptr, this, nullptr);
+    disconnect(d->list->model(), nullptr, this, nullptr);
+}
 
 CfgListWidget *CfgListEditor::list() const
 {
