@@ -19,6 +19,7 @@
 #include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/controls/cfgspinbox.h"
 #include "telecfg/form/formbinder.h"
+#include "telecfg/form/formundo.h"
 #include "telecfg/controls/statecolours.h"
 #include "telecfg/controls/visibility.h"
 #include "telecfg/dialogs/cmddialog.h"
