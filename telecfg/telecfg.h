@@ -30,6 +30,7 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/form/changereview.h"
 #include "telecfg/form/formbinder.h"
+#include "telecfg/form/formundo.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/network/networkchooser.h"

@@ -247,6 +247,43 @@
     </message>
 </context>
 <context>
+    <name>FormUndo</name>
+    <message>
+        <source>parametr %1</source>
+        <translation>parameter %1</translation>
+    </message>
+    <message>
+        <source>Przywrócenie zapisanej wartości: %1
+przywrócenie zapisanej wartości: %1</source>
+        <translation>Restoring the stored value: %1
+restoring the stored value: %1</translation>
+    </message>
+    <message>
+        <source>Zmiana: %1
+zmianę: %1</source>
+        <translation>Change: %1
+change: %1</translation>
+    </message>
+    <message>
+        <source>Cofnij</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Ponów</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Zmiana wielu wartości
+zmianę wielu wartości</source>
+        <translation>Change of several values
+change of several values</translation>
+    </message>
+    <message>
+        <source>Przywróć zapisaną wartość</source>
+        <translation>Restore the stored value</translation>
+    </message>
+</context>
+<context>
     <name>ParameterBrowser</name>
     <message>
         <source>Szukaj: numer, nazwa, opis, opcja</source>

@@ -99,11 +99,17 @@ void BoundControl::registerIn(QWidget *label, NullLabel nullLabel) const
 
 namespace {
 QWidget *writer = nullptr;
-}
+quint64 writes = 0;
+} // namespace
 
 QWidget *BoundControl::writing()
 {
     return writer;
+}
+
+quint64 BoundControl::writeSerial()
+{
+    return writes;
 }
 
 bool BoundControl::write(const QVariant &value, Then then)
@@ -111,6 +117,7 @@ bool BoundControl::write(const QVariant &value, Then then)
     if (!iface || loading())
         return false;
     QWidget *const outer = std::exchange(writer, self);
+    ++writes;
     iface->setValue(reference, value);
     writer = outer;
     if (then == Then::Refresh)

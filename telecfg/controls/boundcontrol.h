@@ -158,6 +158,9 @@ public:
     // The control whose write is under way, or null: whoever follows the table's changes tells
     // the control the user is editing (it shows the value already) from the others.
     static QWidget *writing();
+    // The number of the write under way (or the last one): it grows with every write, so the
+    // changes told during one write (a radio group's members) share it.
+    static quint64 writeSerial();
 
     // The control's updateControl(0).
     void refresh() const { kind.updateControl(self, 0); }
