@@ -88,6 +88,9 @@ public:
 protected:
     /// Shows the context menus and lets the form's keys through a text field with nothing
     /// of its own to undo.
+    /// @param watched the object whose event arrives.
+    /// @param event the event.
+    /// @return true when the event was taken.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
