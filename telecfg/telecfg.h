@@ -30,7 +30,13 @@
 #include "telecfg/firmware/firmware.h"
 #include "telecfg/form/changereview.h"
 #include "telecfg/form/formbinder.h"
+#include "telecfg/form/formstate.h"
 #include "telecfg/form/formundo.h"
+#include "telecfg/form/parameterbrowser.h"
+#include "telecfg/form/parameterfilter.h"
+#include "telecfg/form/parametermodel.h"
+// initDefaultImages() is in the static library telecfg::images, which a host links beside.
+#include "telecfg/images/defaultimages.h"
 #include "telecfg/import/readblockconfigwizard.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/network/networkchooser.h"

@@ -4,10 +4,12 @@
 #include "telecfg/config/collectiontypes.h"
 #include "telecfg/config/parametervalues_p.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QSaveFile>
 #include <utility>
 
 using namespace parametervalues;
@@ -181,7 +183,40 @@ bool ParameterTable::loadJson(const QByteArray &json, QString *error)
     return true;
 }
 
+bool ParameterTable::loadJsonFile(const QString &path, QString *error)
+{
+    QFile file(path);
+    QString why;
+    if (file.open(QIODevice::ReadOnly)) {
+        if (loadJson(file.readAll(), &why))
+            return true;
+    } else {
+        why = file.errorString();
+        clear();
+    }
+    if (error)
+        *error = path + QStringLiteral(": ") + why;
+    return false;
+}
+
+bool ParameterTable::saveJsonFile(const QString &path, QString *error)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(json(true)) >= 0 && file.commit()) {
+        save();
+        return true;
+    }
+    if (error)
+        *error = path + QStringLiteral(": ") + file.errorString();
+    return false;
+}
+
 QByteArray ParameterTable::saveJson() const
+{
+    return json(false);
+}
+
+QByteArray ParameterTable::json(bool currentAsStored) const
 {
     QJsonObject root;
     root.insert(key("title"), title);
@@ -235,7 +270,7 @@ QByteArray ParameterTable::saveJson() const
             !object.columnTitles.isEmpty());
         writeCollectionShape(object, json);
         json.insert(key("value"), toJson(object, object.value));
-        if (!sameValue(object.value, entry.stored))
+        if (!currentAsStored && !sameValue(object.value, entry.stored))
             json.insert(key("stored"), toJson(object, entry.stored));
 
         QJsonObject rules;
@@ -295,6 +330,21 @@ void ParameterTable::setStoredValue(int ref, const QVariant &value)
 ParameterTable::Rules ParameterTable::rules(int ref) const
 {
     return d->entries.value(ref).rules;
+}
+
+ParameterTable::Rules ParameterTable::validityRules(int ref) const
+{
+    const Private::Entry entry = d->entries.value(ref);
+    Rules rules = entry.rules;
+    const auto record = d->records.constFind(ref);
+    if (record == d->records.constEnd() || rules.minimum.isValid() || rules.maximum.isValid() ||
+        entry.group != 0 || isCollection(*record))
+        return rules;
+    if (record->minimum.isValid() && record->maximum.isValid()) {
+        rules.minimum = record->minimum;
+        rules.maximum = record->maximum;
+    }
+    return rules;
 }
 
 void ParameterTable::setRules(int ref, const Rules &rules)
@@ -406,7 +456,7 @@ void ParameterTable::setValue(int ref, QVariant v)
 bool ParameterTable::isValid(int ref)
 {
     const MainConfigObject &record = d->records[ref];
-    const Rules rule = d->entries.value(ref).rules;
+    const Rules rule = validityRules(ref);
     if (isCollection(record))
         return invalidElements(record, rule.numericCells).isEmpty();
     if (!multipleOfStep(record, record.value))

@@ -88,6 +88,21 @@ public:
     /// The table as JSON, in the form loadJson reads.
     /// @return current values and, where they differ, stored ones, as UTF-8 JSON bytes.
     QByteArray saveJson() const;
+    /// Replaces the whole table by the JSON file at `path` (a resource path such as
+    /// ":/table.json" too), as loadJson() does.
+    /// @param path the file to read.
+    /// @param[out] error where not null, says why reading or loading failed, starting with the
+    /// path; untouched on success.
+    /// @return true when loaded; false leaves the table empty.
+    bool loadJsonFile(const QString &path, QString *error = nullptr);
+    /// Saves the table to the file at `path`: writes it as JSON with the current values as the
+    /// stored ones and, once the file is written whole, makes them the stored ones (save()).
+    /// A failed write leaves the file as it was and nothing stored.
+    /// @param path the file to write.
+    /// @param[out] error where not null, says why writing failed, starting with the path;
+    /// untouched on success.
+    /// @return true when written and saved.
+    bool saveJsonFile(const QString &path, QString *error = nullptr);
     /// Empties the table: records, description and the configuration version.
     void clear();
 
@@ -117,6 +132,13 @@ public:
     /// @param ref the parameter number.
     /// @return its rules; rules that do not apply for an unknown parameter.
     Rules rules(int ref) const;
+    /// The rules the table judges a parameter by (isValid()): its own rules and, where they set
+    /// no bound, the range of a number record (its `minimum` and `maximum`, both set, the
+    /// bounds its spin box shows; records of a radio group left out), so a range is written
+    /// once.
+    /// @param ref the parameter number.
+    /// @return the rules in force.
+    Rules validityRules(int ref) const;
     /// Sets the validity rules of a parameter.
     /// @param ref the parameter number.
     /// @param rules its rules.
@@ -202,6 +224,7 @@ signals:
 
 private:
     void empty();
+    QByteArray json(bool currentAsStored) const;
 
     struct Private;
     const std::unique_ptr<Private> d;

@@ -178,7 +178,7 @@ QString BoundControl::invalidReason() const
     int maxLength = -1;
     QString pattern;
     if (auto *table = dynamic_cast<ParameterTable *>(iface)) {
-        const ParameterTable::Rules rules = table->rules(reference);
+        const ParameterTable::Rules rules = table->validityRules(reference);
         minimum = rules.minimum;
         maximum = rules.maximum;
         maxLength = rules.maxLength;

@@ -5,6 +5,7 @@
 #include "telecfg/config/parametertypes.h"
 #include "tests/support/datatable.h"
 
+#include <QTemporaryDir>
 #include <QtTest>
 
 class TestParameterTable : public QObject
@@ -20,6 +21,7 @@ private slots:
     void jsonRoundTrip();
     void badJson_data();
     void badJson();
+    void jsonFiles();
 };
 
 namespace {
@@ -84,6 +86,16 @@ void TestParameterTable::validity_data()
     row("below min, text", QByteArray(R"({"ref": 3, "value": "9", "rules": {"min": 10}})"), false,
         none);
     row("no number", QByteArray(R"({"ref": 3, "value": "x", "rules": {"max": 10}})"), false, none);
+    row("record's range", QByteArray(R"({"ref": 3, "minimum": 10, "maximum": 15, "value": 16})"),
+        false, none);
+    row("rules' bound over the record's range",
+        QByteArray(R"({"ref": 3, "minimum": 1, "maximum": 5, "value": 8, "rules": {"max": 9}})"),
+        true, none);
+    row("one bound is no range", QByteArray(R"({"ref": 3, "minimum": 10, "value": 5})"), true,
+        none);
+    row("radio choice's own value is no range",
+        QByteArray(R"({"ref": 3, "type": 4, "minimum": 2, "maximum": 2, "group": 3, "value": 1})"),
+        true, none);
     row("too long", QByteArray(R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})"), false,
         none);
     row("longest length", QByteArray(R"({"ref": 3, "value": "abc", "rules": {"maxLength": 3}})"),
@@ -199,6 +211,24 @@ void TestParameterTable::badJson()
     QVERIFY(!table.loadJson(json, &error));
     QVERIFY(!error.isEmpty());
     QVERIFY(table.parameters().isEmpty());
+}
+
+void TestParameterTable::jsonFiles()
+{
+    QTemporaryDir dir;
+    ParameterTable table;
+    QString error;
+    QVERIFY(!table.loadJsonFile(dir.filePath("none.json"), &error));
+    QVERIFY2(error.startsWith(dir.filePath("none.json") + ": "), qPrintable(error));
+    QVERIFY(table.loadJson(tableWith(R"({"ref": 7, "value": 1, "stored": 0})")));
+    QVERIFY(!table.saveJsonFile(dir.filePath("no/folder.json"), &error));
+    QVERIFY(table.isModified(7)); // a failed write stores nothing
+    QVERIFY(table.saveJsonFile(dir.filePath("t.json")));
+    QVERIFY(!table.isModified(7));
+    ParameterTable again;
+    QVERIFY(again.loadJsonFile(dir.filePath("t.json")));
+    QCOMPARE(again.value(7).toInt(), 1);
+    QVERIFY(!again.isModified(7)); // written with its values as the stored ones
 }
 
 QTEST_MAIN(TestParameterTable)
