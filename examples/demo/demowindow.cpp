@@ -7,10 +7,13 @@
 #include "ui_bluetoothpage.h"
 
 #include "telecfg/dialogs/gui.h"
+#include "telecfg/form/changereview.h"
 #include "telecfg/form/formstate.h"
+#include "telecfg/form/formundo.h"
 #include "telecfg/form/parameterbrowser.h"
 #include "telecfg/images/defaultimages.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
@@ -22,7 +25,9 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
+#include <QUndoStack>
 #include <utility>
 
 DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
@@ -75,6 +80,7 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
 
     setCentralWidget(tabs);
     buildPages();
+    addUndo(bar);
     refresh();
     // The form follows every edit by itself; the window follows the form-wide state: Save
     // and Revert only while something differs, the title marked, the summary up to date.
@@ -86,7 +92,20 @@ DemoWindow::DemoWindow(DemoTable *demoTable, QWidget *parent)
     connect(state, &FormState::modifiedChanged, this, &QWidget::setWindowModified);
     connect(state, &FormState::parameterChanged, this, &DemoWindow::showSummary);
     connect(state, &FormState::reloaded, this, &DemoWindow::showSummary);
-    resize(920, 560);
+    ChangeReview::askBeforeClosing(this, table, [this] { return save(); });
+    resize(1000, 560);
+}
+
+void DemoWindow::addUndo(QToolBar *bar)
+{
+    // Every edit on the pages and in the browser is a step; the keys work anywhere in the
+    // window, each control's context menu restores its stored value.
+    undo = new FormUndo(binder.state(), this);
+    undo->attach(&binder);
+    undo->installShortcuts(this);
+    bar->addSeparator();
+    bar->addAction(undo->stack()->createUndoAction(bar, tr("Cofnij")));
+    bar->addAction(undo->stack()->createRedoAction(bar, tr("Ponów")));
 }
 
 void DemoWindow::buildPages()
@@ -160,10 +179,18 @@ void DemoWindow::showSummary()
                          .arg(state->invalidParameters().size()));
 }
 
-void DemoWindow::save()
+bool DemoWindow::save()
 {
+    // The user sees every change, pages not shown included, and may leave some out; the
+    // demo's device takes the chosen ones.
+    ChangeReview review(table, this);
+    if (review.exec() != QDialog::Accepted)
+        return false;
+    const int written = review.chosen().size();
     binder.state()->save();
+    statusBar()->showMessage(tr("Zapisano w urządzeniu parametrów: %1").arg(written), 5000);
     refresh();
+    return true;
 }
 
 void DemoWindow::revert()
@@ -207,5 +234,29 @@ QStringList DemoWindow::renderPages(const QString &dir)
         if (grab().save(file))
             files.append(file);
     }
-    return files + deviceMenu->renderDialogs(dir);
+    return files + renderReview(dir) + deviceMenu->renderDialogs(dir);
+}
+
+QStringList DemoWindow::renderReview(const QString &dir)
+{
+    QStringList files;
+    const auto grabTo = [&files](QWidget *widget, const QString &file) {
+        if (widget && widget->grab().save(file))
+            files.append(file);
+    };
+    {
+        ChangeReview review(table, this);
+        review.show();
+        QCoreApplication::processEvents();
+        grabTo(&review, QDir(dir).filePath(QStringLiteral("dialog-review.png")));
+    }
+    // The question is modal: grab it from inside its own event loop, then cancel it.
+    QTimer::singleShot(100, this, [&]() {
+        QWidget *question = QApplication::activeModalWidget();
+        grabTo(question, QDir(dir).filePath(QStringLiteral("dialog-unsaved-changes.png")));
+        if (question)
+            question->close();
+    });
+    close();
+    return files;
 }

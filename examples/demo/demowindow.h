@@ -8,14 +8,17 @@
 
 class DemoTable;
 class DeviceMenu;
+class FormUndo;
 class ParameterBrowser;
 class QComboBox;
 class QLabel;
 class QSpinBox;
 class QTabWidget;
+class QToolBar;
 
 // The demo configurator: a page per data group of the device, a bar to choose the
-// configuration version, hardware and licence level, and "Zapisz" / "Przywróć".
+// configuration version, hardware and licence level, "Zapisz" through the review of the
+// changes, "Przywróć", undo and redo, and the question before unsaved changes are lost.
 class DemoWindow : public QMainWindow
 {
     Q_OBJECT
@@ -30,7 +33,7 @@ public slots:
     void refresh();
 
 private slots:
-    void save();
+    bool save();
     void revert();
     void showSummary();
     void versionChosen(int index);
@@ -38,7 +41,9 @@ private slots:
 
 private:
     void buildPages();
+    void addUndo(QToolBar *bar);
     int hardwareId() const;
+    QStringList renderReview(const QString &dir);
 
     DemoTable *table;
     QTabWidget *tabs;
@@ -49,4 +54,5 @@ private:
     DeviceMenu *deviceMenu;
     FormBinder binder;
     ParameterBrowser *browser = nullptr;
+    FormUndo *undo = nullptr;
 };

@@ -4,7 +4,7 @@
 if(TARGET telecfg-demo)
     add_test(NAME demo_screenshots
         COMMAND ${CMAKE_COMMAND} -DDEMO=$<TARGET_FILE:telecfg-demo>
-            -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots -DPAGES=7 -DDIALOGS=4
+            -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots -DPAGES=7 -DDIALOGS=6
             -P ${CMAKE_CURRENT_LIST_DIR}/screenshots_check.cmake)
     add_test(NAME demo_bad_table
         COMMAND telecfg-demo --table ${CMAKE_CURRENT_LIST_DIR}/tests.cmake --screenshot ${CMAKE_CURRENT_BINARY_DIR}/none)
@@ -17,7 +17,7 @@ if(TARGET telecfg-demo)
         list(POP_FRONT look name)
         add_test(NAME demo_screenshots_${name}
             COMMAND ${CMAKE_COMMAND} -DDEMO=$<TARGET_FILE:telecfg-demo> "-DOPTIONS=${look}"
-                -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots-${name} -DPAGES=7 -DDIALOGS=4
+                -DOUT=${CMAKE_CURRENT_BINARY_DIR}/demo-shots-${name} -DPAGES=7 -DDIALOGS=6
                 -P ${CMAKE_CURRENT_LIST_DIR}/screenshots_check.cmake)
         set(environment "${telecfg_test_environment}")
         if(name MATCHES "^scale2")
