@@ -249,7 +249,7 @@ bool BoundControl::isHiddenNow(int id)
 
 void BoundControl::applyVisibility(int id)
 {
-    const bool hide = isHiddenNow(id);
+    const bool hide = isHiddenNow(id) && !self->property(itemEditorProperty).toBool();
     self->setVisible(!hide);
     for (const QPointer<QWidget> &widget : std::as_const(relatedWidgets))
         if (widget)

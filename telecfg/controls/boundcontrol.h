@@ -99,6 +99,10 @@ private:
 
 // The binding of one control and the steps every control takes alike. A control holds one
 // in its private part and adds only its own loading, painting and editing.
+// A bound control that carries this property (true) edits one item of a view: it is shown
+// whatever the visibility rules say, as the view alone decides where it stands.
+inline constexpr char itemEditorProperty[] = "telecfg_item_editor";
+
 class BoundControl
 {
 public:

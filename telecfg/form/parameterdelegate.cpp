@@ -125,6 +125,9 @@ QWidget *ParameterDelegate::createEditor(QWidget *parent, const QStyleOptionView
         editor = choices;
     } else if (const BoundKind *bound = boundKind(kind)) {
         editor = bound->create(parent);
+        // Also a parameter hidden for the device is edited here: the editor must not hide
+        // itself, which would end the edit after its first write.
+        editor->setProperty(itemEditorProperty, true);
         if (ready) {
             const ParameterTable::Presentation presentation = ready->presentation(ref);
             if (auto *button = qobject_cast<QAbstractButton *>(editor))

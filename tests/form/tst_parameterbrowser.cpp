@@ -31,7 +31,7 @@ const QByteArray json = R"({"version": 5, "pages": ["Paliwo", "CAN"], "parameter
     {"ref": 101, "type": 22, "value": 0, "page": "Paliwo", "control": "checkbox",
      "label": "Pomiar paliwa", "toolTip": "Czujnik w zbiorniku"},
     {"ref": 102, "minimum": 0, "maximum": 100, "step": 5, "value": 10, "page": "Paliwo",
-     "control": "spinbox", "label": "Pojemność"},
+     "control": "spinbox", "label": "Pojemność", "maxVersion": 7},
     {"ref": 103, "value": "250", "page": "CAN", "control": "combobox", "label": "Prędkość",
      "options": [["125 kbit/s", "125"], ["250 kbit/s", "250"]]},
     {"ref": 104, "type": 4, "minimum": 0, "value": 0, "group": 9, "page": "CAN",
@@ -130,18 +130,23 @@ void TestParameterBrowser::editsWithTheControlsRules_data()
     QTest::addColumn<int>("ref");
     QTest::addColumn<QVariant>("typed");
     QTest::addColumn<QVariant>("written");
+    QTest::addColumn<uint>("version");
 
     // The spin box's bounds hold in the browser as on the page.
-    QTest::newRow("spin box, within") << 102 << QVariant(35) << QVariant(35);
-    QTest::newRow("spin box, above its maximum") << 102 << QVariant(500) << QVariant(100);
-    QTest::newRow("radio choice as a list") << 104 << QVariant(1) << QVariant(1u);
+    QTest::newRow("spin box, within") << 102 << QVariant(35) << QVariant(35) << 5u;
+    QTest::newRow("spin box, above its maximum") << 102 << QVariant(500) << QVariant(100) << 5u;
+    QTest::newRow("radio choice as a list") << 104 << QVariant(1) << QVariant(1u) << 5u;
+    // A parameter the device does not show is still edited here, and the edit stays open.
+    QTest::newRow("spin box hidden for the device") << 102 << QVariant(35) << QVariant(35) << 8u;
 }
 
 void TestParameterBrowser::editsWithTheControlsRules()
 {
     QFETCH(int, ref);
     QFETCH(QVariant, typed);
+    QFETCH(uint, version);
     Browser b;
+    b.table.setVersion(version);
     // A page bound to the same table follows the browser's edits.
     QWidget page;
     auto *spin = new CfgSpinBox(&page);
@@ -167,6 +172,7 @@ void TestParameterBrowser::editsWithTheControlsRules()
     QFETCH(QVariant, written);
     QTRY_COMPARE(b.table.value(ref), written);
     QCOMPARE(spin->value(), b.table.value(102).toInt());
+    QVERIFY(!qobject_cast<CfgSpinBox *>(editor) || editor->isVisible());
     if (editor)
         QTest::keyClick(editor, Qt::Key_Escape);
     QTRY_VERIFY(!editor);
