@@ -82,7 +82,8 @@ struct FormUndo::Private
     void takeAll()
     {
         known.clear();
-        for (int ref : state->parameters())
+        const QList<int> refs = state->parameters();
+        for (int ref : refs)
             known.insert(ref, state->table()->value(ref));
     }
 
@@ -296,7 +297,8 @@ bool FormUndo::restore(int ref)
 
 void FormUndo::attach(FormBinder *binder)
 {
-    for (int ref : binder->parameters()) {
+    const QList<int> refs = binder->parameters();
+    for (int ref : refs) {
         QWidget *control = binder->control(ref);
         if (!control)
             continue;
@@ -330,11 +332,13 @@ QMenu *FormUndo::createContextMenu(QWidget *control, int ref)
 
 void FormUndo::installShortcuts(QWidget *form)
 {
-    for (QAction *action : d->keyActions(form)) {
+    const QList<QAction *> actions = d->keyActions(form);
+    for (QAction *action : actions) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         form->addAction(action);
     }
-    for (QWidget *widget : form->findChildren<QWidget *>())
+    const QList<QWidget *> widgets = form->findChildren<QWidget *>();
+    for (QWidget *widget : widgets)
         if (typesText(widget))
             widget->installEventFilter(this);
 }
