@@ -3,6 +3,7 @@
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/config/parametertable.h"
 #include "telecfg/form/changereview.h"
+#include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
@@ -38,56 +39,45 @@ private slots:
     // One changed parameter 10 of each kind, as the review's row shows it.
     void valueTexts_data()
     {
-        QTest::addColumn<QString>("parameter"); // the record's keys after "ref"
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("current");
-        QTest::addColumn<QString>("elements"); // the current value's, in the tool tip
+        // parameter: the record's keys after "ref"
+        // elements: the current value's, in the tool tip
+        columns<QString, QString, QString, QString, QString>("parameter", "name", "stored",
+                                                             "current", "elements");
 
-        const struct
-        {
-            const char *tag, *parameter, *name, *stored, *current, *elements;
-        } rows[] = {
-            {"radio: label and text",
-             R"("control": "radiobutton", "type": 4, "minimum": 2, "label": "Tryb",
-                "text": "Aktywny", "value": 2, "stored": 1)",
-             "Tryb: Aktywny", "niezaznaczone", "zaznaczone", ""},
-            {"int flag, no name", R"("type": 22, "value": 1, "stored": 0)", "Parametr 10",
-             "niezaznaczone", "zaznaczone", ""},
-            {"options", R"("options": [["Wył.", "0"], ["Co minutę", "60"]], "value": "60",
-                           "stored": "0")",
-             "Parametr 10", "Wył.", "Co minutę", ""},
-            {"decimal", R"("value": 12.5, "stored": 12)", "Parametr 10", "12", "12.5", ""},
-            {"list: added and removed",
-             R"("type": 8, "capacity": 9, "value": [1, 3, 4, 5], "stored": [1, 2, 3])",
-             "Parametr 10", "3 elementy", "4 elementy: 2 dodane, 1 usunięty", "1\n3\n4\n5"},
-            {"list: from empty", R"("type": 8, "capacity": 9, "value": [7], "stored": [])",
-             "Parametr 10", "0 elementów", "1 element: 1 dodany", "7"},
-            {"list: names", R"("type": 24, "capacity": 3, "names": {"7": "Jan Kowalski"},
-                               "value": [7, 8], "stored": [8])",
-             "Parametr 10", "1 element", "2 elementy: 1 dodany", "Jan Kowalski\n8"},
-            {"list: order only", R"("type": 13, "capacity": 3, "value": ["b", "a"],
-                                    "stored": ["a", "b"])",
-             "Parametr 10", "2 elementy", "2 elementy: zmieniona kolejność", "b\na"},
-            {"table: row added and changed", R"("columns": [1, 1], "capacity": 4,
-                 "value": [[1, "x"], [2, "b"], [3, "c"]], "stored": [[1, "a"], [2, "b"]])",
-             "Parametr 10", "2 elementy", "3 elementy: 1 dodany, 1 zmieniony", "1, x\n2, b\n3, c"},
+        row("radio: label and text", R"("control": "radiobutton", "type": 4, "minimum": 2,
+            "label": "Tryb", "text": "Aktywny", "value": 2, "stored": 1)",
+            "Tryb: Aktywny", "niezaznaczone", "zaznaczone", "");
+        // The rest have no label: the review names them by number.
+        const auto unnamed = [](const char *tag, const QString &parameter, const char *stored,
+                                const char *current, const QString &elements) {
+            row(tag, parameter, "Parametr 10", stored, current, elements);
         };
-        for (const auto &row : rows)
-            QTest::newRow(row.tag)
-                << QString::fromUtf8(row.parameter) << QString::fromUtf8(row.name)
-                << QString::fromUtf8(row.stored) << QString::fromUtf8(row.current)
-                << QString::fromUtf8(row.elements);
-        QTest::newRow("list: plural forms past the teens")
-            << QStringLiteral(R"("type": 8, "capacity": 30, "value": [%1], "stored": [%2])")
-                   .arg(numbers(1, 22, ","), numbers(1, 12, ","))
-            << "Parametr 10"
-            << "12 elementów"
-            << "22 elementy: 10 dodanych" << numbers(1, 22, "\n");
-        QTest::newRow("networks") << R"("type": 29, "capacity": 3, "value": [266243], "stored": [])"
-                                  << "Parametr 10"
-                                  << "0 elementów"
-                                  << "1 element: 1 dodany" << networkText(266243);
+        unnamed("int flag", R"("type": 22, "value": 1, "stored": 0)", "niezaznaczone", "zaznaczone",
+                "");
+        unnamed("options", R"("options": [["Wył.", "0"], ["Co minutę", "60"]], "value": "60",
+                "stored": "0")",
+                "Wył.", "Co minutę", "");
+        unnamed("decimal", R"("value": 12.5, "stored": 12)", "12", "12.5", "");
+        unnamed("list: added and removed",
+                R"("type": 8, "capacity": 9, "value": [1, 3, 4, 5], "stored": [1, 2, 3])",
+                "3 elementy", "4 elementy: 2 dodane, 1 usunięty", "1\n3\n4\n5");
+        unnamed("list: from empty", R"("type": 8, "capacity": 9, "value": [7], "stored": [])",
+                "0 elementów", "1 element: 1 dodany", "7");
+        unnamed("list: names", R"("type": 24, "capacity": 3, "names": {"7": "Jan Kowalski"},
+                "value": [7, 8], "stored": [8])",
+                "1 element", "2 elementy: 1 dodany", "Jan Kowalski\n8");
+        unnamed("list: order only",
+                R"("type": 13, "capacity": 3, "value": ["b", "a"], "stored": ["a", "b"])",
+                "2 elementy", "2 elementy: zmieniona kolejność", "b\na");
+        unnamed("table: row added and changed", R"("columns": [1, 1], "capacity": 4,
+                "value": [[1, "x"], [2, "b"], [3, "c"]], "stored": [[1, "a"], [2, "b"]])",
+                "2 elementy", "3 elementy: 1 dodany, 1 zmieniony", "1, x\n2, b\n3, c");
+        unnamed("list: plural forms past the teens",
+                QStringLiteral(R"("type": 8, "capacity": 30, "value": [%1], "stored": [%2])")
+                    .arg(numbers(1, 22, ","), numbers(1, 12, ",")),
+                "12 elementów", "22 elementy: 10 dodanych", numbers(1, 22, "\n"));
+        unnamed("networks", R"("type": 29, "capacity": 3, "value": [266243], "stored": [])",
+                "0 elementów", "1 element: 1 dodany", networkText(266243));
     }
 
     void valueTexts()
@@ -109,20 +99,16 @@ private slots:
     // exactly the left-out ones go back to their stored values, the rest are chosen.
     void leaveOut_data()
     {
-        QTest::addColumn<QList<int>>("uncheck"); // rows toggled with Space
-        QTest::addColumn<int>("key");
-        QTest::addColumn<QList<int>>("chosen");
-        QTest::addColumn<QList<int>>("reverted");
-        QTest::addColumn<QString>("summary");
+        // uncheck: rows toggled with Space
+        columns<QList<int>, int, QList<int>, QList<int>, QString>("uncheck", "key", "chosen",
+                                                                  "reverted", "summary");
 
-        QTest::newRow("all kept") << QList<int>{} << int(Qt::Key_Return)
-                                  << QList<int>{10, 12, 13, 14} << QList<int>{}
-                                  << "Zmienione parametry: 4, wybrane: 4";
-        QTest::newRow("two left out")
-            << QList<int>{1, 3} << int(Qt::Key_Enter) << QList<int>{10, 13} << QList<int>{12, 14}
-            << "Zmienione parametry: 4, wybrane: 2";
-        QTest::newRow("cancelled") << QList<int>{0} << int(Qt::Key_Escape) << QList<int>{}
-                                   << QList<int>{} << "Zmienione parametry: 4, wybrane: 3";
+        row("all kept", QList<int>{}, int(Qt::Key_Return), QList<int>{10, 12, 13, 14}, QList<int>{},
+            "Zmienione parametry: 4, wybrane: 4");
+        row("two left out", QList<int>{1, 3}, int(Qt::Key_Enter), QList<int>{10, 13},
+            QList<int>{12, 14}, "Zmienione parametry: 4, wybrane: 2");
+        row("cancelled", QList<int>{0}, int(Qt::Key_Escape), QList<int>{}, QList<int>{},
+            "Zmienione parametry: 4, wybrane: 3");
     }
 
     void leaveOut()
@@ -182,22 +168,16 @@ private slots:
     // window closes and what becomes of the changes.
     void question_data()
     {
-        QTest::addColumn<bool>("takenBack"); // the edit was set back to the stored value
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("saves"); // what the host's save returns
-        QTest::addColumn<bool>("asked");
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<int>("valueAfter");
+        // takenBack: the edit was set back to the stored value
+        // saves: what the host's save returns
+        columns<bool, int, bool, bool, bool, int>("takenBack", "answer", "saves", "asked", "closed",
+                                                  "valueAfter");
 
-        QTest::newRow("edit taken back") << true << 0 << true << false << true << 380;
-        QTest::newRow("save succeeds")
-            << false << int(QMessageBox::Save) << true << true << true << 400;
-        QTest::newRow("save fails")
-            << false << int(QMessageBox::Save) << false << true << false << 400;
-        QTest::newRow("discard") << false << int(QMessageBox::Discard) << true << true << true
-                                 << 380;
-        QTest::newRow("cancel") << false << int(QMessageBox::Cancel) << true << true << false
-                                << 400;
+        row("edit taken back", true, 0, true, false, true, 380);
+        row("save succeeds", false, int(QMessageBox::Save), true, true, true, 400);
+        row("save fails", false, int(QMessageBox::Save), false, true, false, 400);
+        row("discard", false, int(QMessageBox::Discard), true, true, true, 380);
+        row("cancel", false, int(QMessageBox::Cancel), true, true, false, 400);
     }
 
     void question()

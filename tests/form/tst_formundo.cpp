@@ -9,6 +9,7 @@
 #include "telecfg/form/formbinder.h"
 #include "telecfg/form/formstate.h"
 #include "telecfg/form/formundo.h"
+#include "tests/support/datatable.h"
 #include "tests/support/testcase.h"
 
 #include <QAbstractButton>
@@ -55,6 +56,7 @@ struct Form
         widget.show();
         QApplication::setActiveWindow(&widget);
     }
+
     QWidget *control(int ref) const { return binder.control(ref); }
 
     // What the host and the user see: every value in the table, and every control's shown
@@ -122,146 +124,117 @@ class TestFormUndo : public TestCase
     Q_OBJECT
 
 private slots:
-    void steps_data();
-    void steps();
-    void reloadClearsSaveKeeps();
-    void contextMenu_data();
-    void contextMenu();
+    void steps_data()
+    {
+        columns<QString, QString, int>("before", "edit", "steps");
+        row("check box click", "", "click:101", 1);
+        row("two clicks are two steps", "", "click:101 click:101", 2);
+        row("combo box choice", "", "pick:104:2", 1);
+        row("typing merges", "", "type:103:ab type:103:c", 1);
+        row("spin box steps merge", "", "key:102:up key:102:up", 1);
+        row("radio choice and its group", "", "click:106", 1);
+        row("focus lost ends typing", "", "type:103:a focus:102 type:103:b", 2);
+        row("another parameter ends typing", "", "type:103:a click:101 type:103:b", 3);
+        row("edited back leaves no step", "", "type:103:a key:103:back", 0);
+        row("host writes in one go", "", "host:103=x,104=500", 1);
+        row("revert is one step", "click:101 type:103:a pick:104:0", "revert", 1);
+        row("restore is a step", "", "restore:102", 1);
+        row("restore of a stored value", "", "restore:103", 0);
+        row("undo key from a check box", "click:101 focus:101", "key:101:undo", -1);
+        row("undo key from a fresh line edit", "click:101", "key:103:undo", -1);
+        row("redo key from a spin box", "click:101 key:101:undo", "key:102:redo", 1);
+        row("line edit undoes its own typing first", "click:101", "type:103:ab key:103:undo", 0);
+    }
+
+    // An edit, then every step it made taken back and made again: the table and the form are
+    // as before, then as after. A negative count takes back steps made before.
+    void steps()
+    {
+        auto [before, edit, steps] = fetch<QString, QString, int>("before", "edit", "steps");
+        Form form;
+        QVERIFY(QTest::qWaitForWindowActive(&form.widget));
+        QUndoStack *stack = form.undo->stack();
+        form.run(before);
+        const int start = stack->index();
+        const QStringList initial = form.snapshot();
+        form.run(edit);
+        const QStringList edited = form.snapshot();
+        QCOMPARE(stack->index() - start, steps);
+        QCOMPARE(stack->count() - stack->index(), qMax(0, -steps));
+        for (int i = 0; i < steps; ++i)
+            stack->undo();
+        for (int i = 0; i > steps; --i)
+            stack->redo();
+        QCOMPARE(form.snapshot(), initial);
+        for (int i = 0; i < steps; ++i)
+            stack->redo();
+        for (int i = 0; i > steps; --i)
+            stack->undo();
+        QCOMPARE(form.snapshot(), edited);
+    }
+
+    void reloadClearsSaveKeeps()
+    {
+        Form form;
+        form.run("click:101 type:103:a");
+        QCOMPARE(form.undo->stack()->count(), 2);
+        form.table.save(); // the stored values change, the values do not: no step
+        QCOMPARE(form.undo->stack()->count(), 2);
+        QVERIFY(form.table.loadJson(tableJson));
+        QCOMPARE(form.undo->stack()->count(), 0);
+        form.run("click:101"); // the history starts from the loaded values
+        form.undo->stack()->undo();
+        QCOMPARE(form.table.value(101), QVariant(1));
+    }
+
+    void contextMenu_data()
+    {
+        columns<int, bool, bool>("ref", "ownEntries", "modified");
+        row("line edit", 103, true, false);
+        row("spin box, modified", 102, true, true);
+        row("check box, modified", 101, false, true);
+        row("combo box", 104, false, false);
+        row("radio button", 106, false, false);
+    }
+
+    // The menu a right click shows: the control's own entries, then restoring (enabled while
+    // modified, and restoring when chosen), undo and redo.
+    void contextMenu()
+    {
+        QFETCH(int, ref);
+        QFETCH(bool, ownEntries);
+        QFETCH(bool, modified);
+        Form form;
+        form.run("click:101");
+        QWidget *control = form.control(ref);
+        QStringList entries;
+        QAction *restore = nullptr;
+        QTimer::singleShot(0, [&] {
+            QMenu *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            for (QAction *action : menu->actions()) {
+                entries << action->text();
+                if (action->text() == QStringLiteral("Przywróć zapisaną wartość"))
+                    restore = action;
+            }
+            QCOMPARE(restore->isEnabled(), modified);
+            if (modified)
+                restore->trigger();
+            menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2),
+                                control->mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(control, &event);
+        QVERIFY(restore);
+        const QStringList tail = entries.mid(entries.size() - 3);
+        QCOMPARE(tail, (QStringList{QStringLiteral("Przywróć zapisaną wartość"),
+                                    QStringLiteral("Cofnij zmianę: parametr 101"),
+                                    QStringLiteral("Ponów")}));
+        QCOMPARE(entries.size() > 3, ownEntries);
+        QCOMPARE(form.table.isModified(ref), false);
+        QCOMPARE(form.undo->stack()->count(), modified ? 2 : 1);
+    }
 };
-
-void TestFormUndo::steps_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<int>("steps");
-    QTest::newRow("check box click") << ""
-                                     << "click:101" << 1;
-    QTest::newRow("two clicks are two steps") << ""
-                                              << "click:101 click:101" << 2;
-    QTest::newRow("combo box choice") << ""
-                                      << "pick:104:2" << 1;
-    QTest::newRow("typing merges") << ""
-                                   << "type:103:ab type:103:c" << 1;
-    QTest::newRow("spin box steps merge") << ""
-                                          << "key:102:up key:102:up" << 1;
-    QTest::newRow("radio choice and its group") << ""
-                                                << "click:106" << 1;
-    QTest::newRow("focus lost ends typing") << ""
-                                            << "type:103:a focus:102 type:103:b" << 2;
-    QTest::newRow("another parameter ends typing") << ""
-                                                   << "type:103:a click:101 type:103:b" << 3;
-    QTest::newRow("edited back leaves no step") << ""
-                                                << "type:103:a key:103:back" << 0;
-    QTest::newRow("host writes in one go") << ""
-                                           << "host:103=x,104=500" << 1;
-    QTest::newRow("revert is one step") << "click:101 type:103:a pick:104:0"
-                                        << "revert" << 1;
-    QTest::newRow("restore is a step") << ""
-                                       << "restore:102" << 1;
-    QTest::newRow("restore of a stored value") << ""
-                                               << "restore:103" << 0;
-    QTest::newRow("undo key from a check box") << "click:101 focus:101"
-                                               << "key:101:undo" << -1;
-    QTest::newRow("undo key from a fresh line edit") << "click:101"
-                                                     << "key:103:undo" << -1;
-    QTest::newRow("redo key from a spin box") << "click:101 key:101:undo"
-                                              << "key:102:redo" << 1;
-    QTest::newRow("line edit undoes its own typing first") << "click:101"
-                                                           << "type:103:ab key:103:undo" << 0;
-}
-
-// An edit, then every step it made taken back and made again: the table and the form are
-// as before, then as after. A negative count takes back steps made before.
-void TestFormUndo::steps()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, edit);
-    QFETCH(int, steps);
-    Form form;
-    QVERIFY(QTest::qWaitForWindowActive(&form.widget));
-    QUndoStack *stack = form.undo->stack();
-    form.run(before);
-    const int start = stack->index();
-    const QStringList initial = form.snapshot();
-    form.run(edit);
-    const QStringList edited = form.snapshot();
-    QCOMPARE(stack->index() - start, steps);
-    QCOMPARE(stack->count() - stack->index(), qMax(0, -steps));
-    for (int i = 0; i < steps; ++i)
-        stack->undo();
-    for (int i = 0; i > steps; --i)
-        stack->redo();
-    QCOMPARE(form.snapshot(), initial);
-    for (int i = 0; i < steps; ++i)
-        stack->redo();
-    for (int i = 0; i > steps; --i)
-        stack->undo();
-    QCOMPARE(form.snapshot(), edited);
-}
-
-void TestFormUndo::reloadClearsSaveKeeps()
-{
-    Form form;
-    form.run("click:101 type:103:a");
-    QCOMPARE(form.undo->stack()->count(), 2);
-    form.table.save(); // the stored values change, the values do not: no step
-    QCOMPARE(form.undo->stack()->count(), 2);
-    QVERIFY(form.table.loadJson(tableJson));
-    QCOMPARE(form.undo->stack()->count(), 0);
-    form.run("click:101"); // the history starts from the loaded values
-    form.undo->stack()->undo();
-    QCOMPARE(form.table.value(101), QVariant(1));
-}
-
-void TestFormUndo::contextMenu_data()
-{
-    QTest::addColumn<int>("ref");
-    QTest::addColumn<bool>("ownEntries");
-    QTest::addColumn<bool>("modified");
-    QTest::newRow("line edit") << 103 << true << false;
-    QTest::newRow("spin box, modified") << 102 << true << true;
-    QTest::newRow("check box, modified") << 101 << false << true;
-    QTest::newRow("combo box") << 104 << false << false;
-    QTest::newRow("radio button") << 106 << false << false;
-}
-
-// The menu a right click shows: the control's own entries, then restoring (enabled while
-// modified, and restoring when chosen), undo and redo.
-void TestFormUndo::contextMenu()
-{
-    QFETCH(int, ref);
-    QFETCH(bool, ownEntries);
-    QFETCH(bool, modified);
-    Form form;
-    form.run("click:101");
-    QWidget *control = form.control(ref);
-    QStringList entries;
-    QAction *restore = nullptr;
-    QTimer::singleShot(0, [&] {
-        QMenu *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        for (QAction *action : menu->actions()) {
-            entries << action->text();
-            if (action->text() == QStringLiteral("Przywróć zapisaną wartość"))
-                restore = action;
-        }
-        QCOMPARE(restore->isEnabled(), modified);
-        if (modified)
-            restore->trigger();
-        menu->close();
-    });
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2),
-                            control->mapToGlobal(QPoint(2, 2)));
-    QApplication::sendEvent(control, &event);
-    QVERIFY(restore);
-    const QStringList tail = entries.mid(entries.size() - 3);
-    QCOMPARE(tail,
-             (QStringList{QStringLiteral("Przywróć zapisaną wartość"),
-                          QStringLiteral("Cofnij zmianę: parametr 101"), QStringLiteral("Ponów")}));
-    QCOMPARE(entries.size() > 3, ownEntries);
-    QCOMPARE(form.table.isModified(ref), false);
-    QCOMPARE(form.undo->stack()->count(), modified ? 2 : 1);
-}
 
 QTEST_MAIN(TestFormUndo)
 #include "tst_formundo.moc"
