@@ -36,16 +36,12 @@ private slots:
         row("number and its text", QVariant(300), QVariant(QStringLiteral("300")), false);
         row("double and whole text", QVariant(835.0), QVariant(QStringLiteral("835")), false);
         row("texts", QVariant(QStringLiteral("1234")), QVariant(QStringLiteral("12345")), true);
-        row("uint vectors equal", QVariant::fromValue(QVector<quint32>{1, 2, 0}),
-            QVariant::fromValue(QVector<quint32>{1, 2, 0}), false);
-        row("uint vectors differ", QVariant::fromValue(QVector<quint32>{1, 2, 0}),
-            QVariant::fromValue(QVector<quint32>{1, 3, 0}), true);
-        row("ushort vectors differ", QVariant::fromValue(QVector<quint16>{5, 0}),
-            QVariant::fromValue(QVector<quint16>{0, 5}), true);
-        row("byte arrays differ", QVariant::fromValue(QVector<QByteArray>{"A", ""}),
-            QVariant::fromValue(QVector<QByteArray>{"B", ""}), true);
-        row("strings equal", QVariant::fromValue(QVector<QString>{QStringLiteral("x")}),
-            QVariant::fromValue(QVector<QString>{QStringLiteral("x")}), false);
+        row("uint vectors equal", vec<quint32>({1, 2, 0}), vec<quint32>({1, 2, 0}), false);
+        row("uint vectors differ", vec<quint32>({1, 2, 0}), vec<quint32>({1, 3, 0}), true);
+        row("ushort vectors differ", vec<quint16>({5, 0}), vec<quint16>({0, 5}), true);
+        row("byte arrays differ", vec<QByteArray>({"A", ""}), vec<QByteArray>({"B", ""}), true);
+        row("strings equal", vec<QString>({QStringLiteral("x")}),
+            vec<QString>({QStringLiteral("x")}), false);
         row("table cell differs", QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "20"}}),
             QVariant::fromValue(ColumnVectors{{"1", "2"}, {"10", "21"}}), true);
         row("table equal", QVariant::fromValue(ColumnVectors{{"1"}, {"10"}}),
@@ -69,53 +65,39 @@ private slots:
 
     void validity_data()
     {
-        columns<QByteArray, bool, QList<int>>("parameter", "valid", "invalidItems");
+        // parameter: the keys of parameter 3 after "ref"
+        columns<QString, bool, QList<int>>("parameter", "valid", "invalidItems");
 
         const QList<int> none;
-        row("in range",
-            QByteArray(R"({"ref": 3, "value": 400, "rules": {"min": 10, "max": 1500}})"), true,
+        const QString range = R"("rules": {"min": 10, "max": 1500})";
+        row("in range", R"("value": 400, )" + range, true, none);
+        row("above max", R"("value": 1501, )" + range, false, none);
+        row("below min, text", R"("value": "9", "rules": {"min": 10})", false, none);
+        row("no number", R"("value": "x", "rules": {"max": 10})", false, none);
+        row("too long", R"("value": "abcd", "rules": {"maxLength": 3})", false, none);
+        row("longest length", R"("value": "abc", "rules": {"maxLength": 3})", true, none);
+        row("pattern whole text", R"("value": "12345", "rules": {"pattern": "\\d{4}"})", false,
             none);
-        row("above max",
-            QByteArray(R"({"ref": 3, "value": 1501, "rules": {"min": 10, "max": 1500}})"), false,
-            none);
-        row("below min, text", QByteArray(R"({"ref": 3, "value": "9", "rules": {"min": 10}})"),
-            false, none);
-        row("no number", QByteArray(R"({"ref": 3, "value": "x", "rules": {"max": 10}})"), false,
-            none);
-        row("too long", QByteArray(R"({"ref": 3, "value": "abcd", "rules": {"maxLength": 3}})"),
-            false, none);
-        row("longest length",
-            QByteArray(R"({"ref": 3, "value": "abc", "rules": {"maxLength": 3}})"), true, none);
-        row("pattern whole text",
-            QByteArray(R"({"ref": 3, "value": "12345", "rules": {"pattern": "\\d{4}"}})"), false,
-            none);
-        row("pattern matches",
-            QByteArray(R"({"ref": 3, "value": "1234", "rules": {"pattern": "\\d{4}"}})"), true,
-            none);
-        row("repeated list element",
-            QByteArray(R"({"ref": 3, "type": 24, "capacity": 4, "value": [7, 8, 7]})"), false,
+        row("pattern matches", R"("value": "1234", "rules": {"pattern": "\\d{4}"})", true, none);
+        row("repeated list element", R"("type": 24, "capacity": 4, "value": [7, 8, 7])", false,
             QList<int>{2});
         row("free places repeat freely",
-            QByteArray(
-                R"({"ref": 3, "type": 20, "capacity": 4, "value": ["A", "\u0000", "\u0000"]})"),
-            true, none);
-        row("table cell no number",
-            QByteArray(
-                R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[0, 0], [1, "x"]], "rules": {"numericCells": true}})"),
+            R"("type": 20, "capacity": 4, "value": ["A", "\u0000", "\u0000"])", true, none);
+        row("table cell no number", R"("columns": [1, 2], "capacity": 4, "value": [[0, 0],
+            [1, "x"]], "rules": {"numericCells": true})",
             false, QList<int>{1});
         row("repeated row identifier",
-            QByteArray(
-                R"({"ref": 3, "columns": [1, 2], "capacity": 4, "value": [[5, 0], [5, 1]]})"),
-            false, QList<int>{1});
+            R"("columns": [1, 2], "capacity": 4, "value": [[5, 0], [5, 1]])", false, QList<int>{1});
     }
 
     void validity()
     {
         auto [parameter, valid, invalidItems] =
-            fetch<QByteArray, bool, QList<int>>("parameter", "valid", "invalidItems");
+            fetch<QString, bool, QList<int>>("parameter", "valid", "invalidItems");
         ParameterTable table;
         QString error;
-        QVERIFY2(table.loadJson(tableWith(parameter), &error), qPrintable(error));
+        QVERIFY2(table.loadJson(tableWith(R"({"ref": 3, )" + parameter.toUtf8() + "}"), &error),
+                 qPrintable(error));
         QCOMPARE(table.isValid(3), valid);
         QCOMPARE(table.invalidItems(3), invalidItems);
         QCOMPARE(table.invalidParameters(), valid ? QList<int>() : QList<int>{3});

@@ -25,9 +25,7 @@ namespace {
 const QString spinRed = QStringLiteral("QSpinBox{background: red;}");
 const QString spinYellow = QStringLiteral("QSpinBox{background: yellow;}");
 const QString spinWhite = QStringLiteral("QSpinBox{background: white;}");
-} // namespace
 
-namespace {
 QString radioSheet(const char *checkedImage, int blanks)
 {
     const QString gap(blanks, QLatin1Char(' '));
@@ -43,9 +41,7 @@ QString radioSheet(const char *checkedImage, int blanks)
 }
 const QString radioNormal = radioSheet("radiobutton_selected_black", 24);
 const QString radioChanged = radioSheet("radiobutton_selected_yellow", 22);
-} // namespace
 
-namespace {
 const QString doubleRed = QStringLiteral("QDoubleSpinBox{background: red;}");
 const QString doubleYellow = QStringLiteral("QDoubleSpinBox{background: yellow;}");
 const QString doubleWhite = QStringLiteral("QDoubleSpinBox{background: white;}");
@@ -83,9 +79,7 @@ Options speeds()
 {
     return {{0, {"125 kbit/s", "125"}}, {1, {"250 kbit/s", "250"}}, {2, {"500 kbit/s", "500"}}};
 }
-} // namespace
 
-namespace {
 const QString lineRed = QStringLiteral("QLineEdit{background: red;}");
 const QString lineYellow = QStringLiteral("QLineEdit{background: yellow;}");
 const QString lineWhite = QStringLiteral("QLineEdit{background: white;}");

@@ -108,9 +108,7 @@ QByteArray compressedBody(const QByteArray &image, bool limited)
 
     return sealed(body.append(2, '\0'));
 }
-} // namespace
 
-namespace {
 // The CRC-32 one bit at a time straight from its definition, continued like
 // crc32next.
 quint32 bitwiseCrc32(quint32 crc, const unsigned char *data, int length)

@@ -62,10 +62,6 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-} // namespace
-
-namespace {
-
 // The dialog's widgets, reached by the object names the slots are bound to.
 struct Form
 {

@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
 #include "telecfg/collections/cachingitemdelegate_p.h"
+#include "telecfg/collections/cfglisteditor.h"
 #include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/parametertable.h"
 #include "tests/collections/collectiontest.h"
 #include "tests/support/anycontrol.h"
 #include "tests/support/contexttranslator.h"
@@ -11,19 +14,19 @@
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
+#include <QDialogButtonBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QtTest>
 
 using namespace collectiontest;
+using Grid = QStringList;
 
 namespace {
 const int ref = 40;
 const QString network = QStringLiteral("260003 Polska Orange / PTK Centertel Sp. z o.o.");
-
-template <class Element> QVariant vec(std::initializer_list<Element> elements)
-{
-    return QVariant::fromValue(QVector<Element>(elements));
-}
 
 // "text@place" per item in list order, joined by '|': "@~2" a removed element
 // that had place 2, "@-" an item without a place.
@@ -73,21 +76,125 @@ struct Bound
         list.setReference(&host, ref, nullptr, {});
     }
 };
-} // namespace
 
 // The list's kept item pixmaps must show exactly what the stock item painting
 // draws, in every state an item can be shown in, and after the view's look
 // changes.
-
-namespace {
-
 QImage shot(QWidget &widget)
 {
     return widget.grab().toImage();
 }
+
+const int tableRef = 60;
+
+// Columns written as text, one string per column, places joined by '|'.
+QVariant table(const QStringList &columns)
+{
+    ColumnVectors value;
+    for (const QString &column : columns) {
+        QVector<QByteArray> places;
+        for (const QString &place : column.split('|'))
+            places << place.toLatin1();
+        value << places;
+    }
+
+    return QVariant::fromValue(value);
+}
+
+// The columns last handed to the host, written as for table() (empty: nothing written).
+QVariant written(const TestHost &host)
+{
+    return host.writes.isEmpty() ? QVariant() : host.writes.last().value;
+}
+
+// The grid as the user sees it: one string per row, cells joined by '|', "-" for no cell.
+Grid gridOf(const QTableWidget &table)
+{
+    Grid rows;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < table.columnCount(); ++column) {
+            const QTableWidgetItem *cell = table.item(row, column);
+            cells << (cell ? cell->text() : QStringLiteral("-"));
+        }
+        rows << cells.join('|');
+    }
+
+    return rows;
+}
+
+// A table bound to parameter `tableRef`: `shown` columns, `filled` of them filled from the value.
+struct TableBound
+{
+    TestHost host;
+    CfgTableWidget table;
+    TableBound(const QVariant &value, int capacity, const QVariantList &stored = {}, int shown = 2,
+               int filled = 2)
+    {
+        MainConfigObject &object = host.add(tableRef, 0, value);
+        object.columnListA = QVariant::fromValue(QVector<uint>(filled).toList());
+        object.columnListB = QVariant::fromValue(QVector<uint>(shown).toList());
+        object.capacity = capacity;
+        object.columnTitles = QStringList{"Poziom", "Objętość"};
+        host.storedItemsOf[tableRef] = stored;
+        table.setSelectionMode(QAbstractItemView::MultiSelection);
+        table.setReference(&host, tableRef, nullptr, {});
+    }
+};
+
+// What the input dialog offers: "int 1-65535", "double 1-4294967295", "names a|b", "text 8"
+// (the line edit's length; "-" for none), "network" for the country and operator dialog.
+QString offered(QWidget *modal)
+{
+    auto *dialog = qobject_cast<QInputDialog *>(modal);
+    if (!dialog)
+        return modal->findChild<QLineEdit *>(QStringLiteral("leCountry")) ? "network" : "?";
+    switch (dialog->inputMode()) {
+    case QInputDialog::IntInput:
+        return QStringLiteral("int %1-%2").arg(dialog->intMinimum()).arg(dialog->intMaximum());
+    case QInputDialog::DoubleInput:
+        return QStringLiteral("double %1-%2")
+            .arg(dialog->doubleMinimum(), 0, 'f', 0)
+            .arg(dialog->doubleMaximum(), 0, 'f', 0);
+    case QInputDialog::TextInput:
+        break;
+    }
+
+    if (!dialog->comboBoxItems().isEmpty())
+        return "names " + dialog->comboBoxItems().join('|');
+    const int length = dialog->findChild<QLineEdit *>()->maxLength();
+    return "text " + (length == 32767 ? QStringLiteral("-") : QString::number(length));
+}
+
+// Plays the user: gives `answer` to the input (a network as "country/operator") and presses
+// OK where it is enabled; a null answer, or a disabled OK, cancels.
+void answer(QWidget *modal, const QString &answer)
+{
+    auto *dialog = qobject_cast<QDialog *>(modal);
+    QPushButton *ok = nullptr;
+    if (auto *input = qobject_cast<QInputDialog *>(modal)) {
+        if (input->inputMode() == QInputDialog::IntInput)
+            input->setIntValue(answer.toInt());
+        else if (input->inputMode() == QInputDialog::DoubleInput)
+            input->setDoubleValue(answer.toDouble());
+        else
+            input->setTextValue(answer);
+        ok = input->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+    } else {
+        const QStringList codes = answer.split('/');
+        modal->findChild<QLineEdit *>(QStringLiteral("leCountry"))->setText(codes.value(0));
+        modal->findChild<QLineEdit *>(QStringLiteral("leOperator"))->setText(codes.value(1));
+        ok = modal->findChild<QPushButton *>(QStringLiteral("pbOK"));
+    }
+
+    if (answer.isNull() || !ok->isEnabled())
+        dialog->reject();
+    else
+        ok->click();
+}
 } // namespace
 
-class TestCfgListWidget : public TestCase
+class TestCollections : public TestCase
 {
     Q_OBJECT
 
@@ -461,7 +568,296 @@ private slots:
         QVERIFY(!drawn.isNull());
         QCOMPARE(cached, drawn);
     }
+
+    void binding_data()
+    {
+        columns<QVariant, int, QString, Grid>("value", "capacity", "titles", "grid");
+
+        const QString two = QStringLiteral("Poziom|Objętość");
+        row("two rows", table({"1|2|", "10|20|"}), 3, two, Grid{"1|10", "2|20"});
+        row("generated titles", table({"1", "10", "x", "y"}), 1,
+            "Poziom|Objętość|Kolumna 3|Kolumna 4", Grid{"1|10|x|y"});
+        // Deliberate: a free place before a used one leaves the used row past the row count.
+        row("free place first", table({"|2", "|20"}), 2, two, Grid{"-|"});
+        // Wrong shapes show what fits, and nothing done on them afterwards crashes.
+        // An identifier of zero bytes is a free place, as an empty one.
+        row("zero-byte identifier", table({"1|" + QString(2, QChar(0)), "10|x"}), 2, two,
+            Grid{"1|10"});
+        row("short column", table({"1|2", "10"}), 2, two, Grid{"1|10", "2|-"});
+        row("wrong container", QVariant::fromValue(QVector<quint32>{1}), 1, two, Grid{});
+        row("capacity 0", table({"1", "10"}), 0, two, Grid{});
+    }
+
+    void binding()
+    {
+        QFETCH(QVariant, value);
+        const int columns = qMax(2, qvariant_cast<ColumnVectors>(value).size()); // shown, filled
+        auto [capacity, titles, grid] = fetch<int, QString, Grid>("capacity", "titles", "grid");
+
+        TableBound b(value, capacity, {QByteArray("1")}, columns, columns);
+        b.table.setRowCount(5);
+        b.table.setReference(&b.host, tableRef, nullptr, {}); // the old rows go
+        QStringList headers;
+        for (int column = 0; column < b.table.columnCount(); ++column)
+            headers << b.table.horizontalHeaderItem(column)->text();
+        QCOMPARE(headers.join('|'), titles);
+        QCOMPARE(gridOf(b.table), grid);
+
+        ModalCatcher catcher;
+        b.table.selectAll();
+        QCOMPARE(b.table.remove(tableRef), capacity != 0); // true while there are any places
+        b.table.addValue(QVariant(QStringList{"1", "11", "111"}), tableRef);
+        b.table.addValue(QVariant(QStringList{"9"}), tableRef);
+        b.table.updateControl(0);
+    }
+
+    void addEditRemove_data()
+    {
+        columns<QStringList, int, QVariantList>("value", "capacity", "stored");
+        // (column, row) edited or removed; (-1, -1): an add; (-1, row): an add while the first
+        // cell of that row is current
+        // input: "remove" the cell, "remove row" its whole row
+        // after: empty: nothing written
+        columns<QPoint, QVariant, Grid, QStringList, QString>("cell", "input", "grid", "after",
+                                                              "message");
+
+        const QPoint add(-1, -1);
+        const QVariantList no;
+        const QVariant row3 = QStringList{"3", "30"};
+        const QStringList two{"1|2", "10|20"};
+        const QStringList three{"1|2|", "10|20|"};
+        const Grid same{"1|10", "2|20"};
+        row("first free place", three, 3, no, add, row3, Grid{"1|10", "2|20", "3|30"},
+            QStringList{"1|2|3", "10|20|30"}, "");
+        // Deliberate: while place 1 is empty every add takes place 0.
+        row("place 1 empty", QStringList{"1||", "10||"}, 3, no, add, row3, Grid{"3|30", "-|-"},
+            QStringList{"3||", "30||"}, "");
+        row("full", two, 2, no, add, row3, same, two, "");
+        row("duplicate in a later column", three, 3, no, add, QVariant(QStringList{"20", "5"}),
+            same, QStringList{}, "Identyfikator jest już używany");
+        row("capacity 0", QStringList{"", ""}, 0, no, add, row3, Grid{}, QStringList{"", ""}, "");
+        row("invalid", QStringList{"1|", "10|"}, 2, no, add, QVariant(), Grid{"1|10"},
+            QStringList{}, "");
+        // The edit check that ends every add stores the current cell again.
+        row("invalid, a cell current", QStringList{"1|", "10|"}, 2, no, QPoint(-1, 0), QVariant(),
+            Grid{"1|10"}, QStringList{"1|", "10|"}, "");
+        // Off the diagonal, so a row and column mixed up show.
+        row("edit", two, 2, no, QPoint(1, 0), QVariant("15"), Grid{"1|15", "2|20"},
+            QStringList{"1|2", "15|20"}, "");
+        row("edit, text of another column", two, 2, no, QPoint(1, 0), QVariant("2"), same,
+            QStringList{}, "Identyfikator jest już używany");
+        row("edit, emptied later column", two, 2, no, QPoint(1, 1), QVariant(""), same,
+            QStringList{}, "Identyfikator nie może być pusty");
+        const QStringList gone{"|2", "|20"};
+        row("remove, stored row greys", two, 2, QVariantList{QByteArray("1")}, QPoint(1, 0),
+            QVariant("remove"), same, gone, "");
+        // Several cells of one row: the row goes once, its other cells are skipped.
+        row("remove row", two, 2, no, QPoint(0, 0), QVariant("remove row"), Grid{"2|20"}, gone, "");
+        // Deliberate: a place at or above the column count goes without asking the host.
+        row("remove beyond column count", QStringList{"1|2|3", "10|20|30"}, 3,
+            QVariantList{QByteArray("3")}, QPoint(0, 2), QVariant("remove"), same,
+            QStringList{"1|2|", "10|20|"}, "");
+    }
+
+    void addEditRemove()
+    {
+        auto [value, capacity, stored, cell, input, grid, after, message] =
+            fetch<QStringList, int, QVariantList, QPoint, QVariant, Grid, QStringList, QString>(
+                "value", "capacity", "stored", "cell", "input", "grid", "after", "message");
+
+        TableBound b(table(value), capacity, stored);
+        ModalCatcher catcher;
+        if (cell.x() < 0) {
+            if (cell.y() >= 0)
+                b.table.setCurrentCell(cell.y(), 0);
+            QCOMPARE(b.table.addValue(input, tableRef), message.isEmpty() ? 0 : 1);
+        } else if (input.toString().startsWith("remove")) {
+            b.table.item(cell.y(), cell.x())->setSelected(true);
+            if (input == "remove row")
+                b.table.item(cell.y(), 1 - cell.x())->setSelected(true);
+            QVERIFY(b.table.remove(tableRef));
+        } else {
+            b.table.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&b.table));
+            const QRect rect = b.table.visualItemRect(b.table.item(cell.y(), cell.x()));
+            QVERIFY(collectiontest::editInPlace(b.table, rect, input.toString()));
+        }
+        QCOMPARE(gridOf(b.table), grid);
+        QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
+        QCOMPARE(catcher.seen.size(), message.isEmpty() ? 0 : 1);
+        if (!message.isEmpty()) {
+            QCOMPARE(catcher.seen.at(0).title, cell.x() < 0 ? "Nowy element" : "Edycja elementu");
+            QCOMPARE(catcher.seen.at(0).text, message);
+        }
+    }
+
+    void greyRow()
+    {
+        TableBound b(table({"1|2", "10|20"}), 2, {QByteArray("1")});
+        b.table.item(0, 1)->setSelected(true);
+        QVERIFY(b.table.remove(tableRef));
+        QCOMPARE(b.host.writes.size(), 2);
+        QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#a0a0a4"));
+        QCOMPARE(b.table.item(0, 0)->toolTip(), QStringLiteral("Usunięty element"));
+        QCOMPARE(b.table.item(0, 1)->toolTip(), QString());
+        // A grey row is not removed again; adding its identifier brings it back.
+        b.host.writes.clear();
+        QVERIFY(b.table.remove(tableRef));
+        QVERIFY(b.host.writes.isEmpty());
+        QCOMPARE(b.table.addValue(QVariant(QStringList{"1", "11"}), tableRef), 0);
+        QCOMPARE(gridOf(b.table), (Grid{"1|11", "2|20"}));
+        QCOMPARE(b.host.writes.last().value, table({"1|2", "11|20"}));
+        QCOMPARE(colourOf(b.table.item(0, 1)), QStringLiteral("#ffffff"));
+
+        // Painting stops at the first missing cell and goes on once it is back.
+        b.host.invalidItemsOf[tableRef] = {0};
+        b.host.modifiedItemsOf[tableRef] = {0, 1};
+        delete b.table.takeItem(0, 1);
+        b.table.updateControl(0);
+        QCOMPARE(colourOf(b.table.item(0, 0)), QStringLiteral("#ff0000"));
+        QCOMPARE(b.table.item(0, 0)->toolTip(), QStringLiteral("Nieprawidłowy element"));
+        QCOMPARE(colourOf(b.table.item(1, 0)), QStringLiteral("#ffffff"));
+        b.table.setItem(0, 1, new QTableWidgetItem("x"));
+        b.table.updateControl(0);
+        QCOMPARE(colourOf(b.table.item(1, 1)), QStringLiteral("#ffff00"));
+    }
+
+    void addAsksByElementType_data()
+    {
+        // bounds: the record's minimum and maximum
+        // maxLength: the table's rule
+        // answer: null cancels
+        columns<int, QVariant, QVariant, QVariantList, int, QString, QString, QVariant>(
+            "type", "value", "names", "bounds", "maxLength", "offered", "answer", "after");
+
+        const QVariant none;
+        const QVariantList no{QVariant(), QVariant()};
+        const QVariant u16 = vec<quint16>({0, 0});
+        const QVariant u32 = vec<quint32>({0, 0});
+        const QVariant field = vec<QByteArray>({QByteArray(8, '\0'), "X"});
+        const QVariant texts = vec<QString>({"", ""});
+        const QVariant named = QVariant::fromValue(QList<NamedUInt>{{7, "Jan"}, {9, "Anna"}});
+        row("8: number", 8, u16, none, no, -1, "int 1-65535", "300", vec<quint16>({300, 0}));
+        row("8: the record's bounds", 8, u16, none, QVariantList{10, 70000}, -1, "int 10-65535",
+            "12", vec<quint16>({12, 0}));
+        row("24: every 32-bit number", 24, u32, none, no, -1, "double 1-4294967295", "4000000000",
+            vec<quint32>({4000000000u, 0}));
+        row("24: by name", 24, u32, named, no, -1, "names Jan|Anna", "Anna", vec<quint32>({9, 0}));
+        row("24: cancelled", 24, u32, none, no, -1, "double 1-4294967295", QString(), u32);
+        row("20: field size of a free place", 20, field, none, no, -1, "text 8", "AB",
+            vec<QByteArray>({"AB", "X"}));
+        // Eight characters, but sixteen bytes: more than the field holds.
+        row("20: too long in bytes", 20, field, none, no, -1, "text 8", "ąąąąąąąą", field);
+        row("13: the table's length", 13, texts, none, no, 5, "text 5", "abc",
+            vec<QString>({"abc", ""}));
+        row("13: empty refused", 13, texts, none, no, -1, "text -", "", texts);
+        row("29: network", 29, u32, none, no, -1, "network", "260/3", vec<quint32>({266243, 0}));
+        // Network 0 marks a free place.
+        row("29: network 0", 29, u32, none, no, -1, "network", "0/0", u32);
+    }
+
+    void addAsksByElementType()
+    {
+        QFETCH(int, type);
+        QFETCH(QVariant, value);
+        QFETCH(QVariant, names);
+        QFETCH(QVariantList, bounds);
+        QFETCH(int, maxLength);
+        QFETCH(QString, offered);
+        QFETCH(QString, answer);
+        QFETCH(QVariant, after);
+
+        ParameterTable table;
+        MainConfigObject record;
+        record.type = type;
+        record.value = value;
+        record.capacity = 2;
+        record.valueNames = names;
+        record.minimum = bounds.at(0);
+        record.maximum = bounds.at(1);
+        table.addRecord(ref, record);
+        ParameterTable::Rules rules;
+        rules.maxLength = maxLength;
+        table.setRules(ref, rules);
+        MainConfigIFace *iface = &table;
+        CfgListEditor editor;
+        editor.setReference(iface, ref, nullptr, {});
+        editor.updateControl(0);
+        const int before = editor.list()->count();
+
+        QString seen;
+        ModalCatcher catcher([&](QWidget *modal) {
+            seen = ::offered(modal);
+            ::answer(modal, answer);
+        });
+        QTest::mouseClick(editor.addButton(), Qt::LeftButton);
+        QCOMPARE(seen, offered);
+        QCOMPARE(iface->value(ref), after);
+        QCOMPARE(editor.list()->count(), before + (after != value ? 1 : 0));
+    }
+
+    void buttons_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        // "select", "disable", "gate", "list off" (the host disables the list), "unbind"
+        columns<QString, bool, bool, QString>("op", "add", "remove", "addTip");
+
+        const QVariant room = vec<quint32>({5, 0});
+        const QVariant full = vec<quint32>({5, 6});
+        row("room, nothing selected", room, "", true, false, "");
+        row("full", full, "", false, false, "Lista jest pełna");
+        row("selected", full, "select", false, true, "Lista jest pełna");
+        row("disabled", room, "select disable", false, false, "");
+        row("gate closed", room, "select gate", false, false, "");
+        row("list disabled", room, "select list off", false, false, "");
+        row("unbound", room, "unbind", false, false, "");
+    }
+
+    void buttons()
+    {
+        auto [value, op, add, remove, addTip] =
+            fetch<QVariant, QString, bool, bool, QString>("value", "op", "add", "remove", "addTip");
+
+        TestHost host;
+        host.add(ref, 24, value).capacity = 2;
+        CfgListEditor editor;
+        editor.setReference(&host, ref, nullptr, {});
+        if (op.contains("select"))
+            editor.list()->item(0)->setSelected(true);
+        if (op.contains("disable"))
+            editor.setEnabled(false);
+        if (op.contains("gate"))
+            editor.updateEnableState(false);
+        if (op.contains("list off"))
+            editor.list()->setEnabled(false);
+        if (op.contains("unbind"))
+            editor.setReference(nullptr, ref, nullptr, {});
+        QCOMPARE(editor.addButton()->isEnabled(), add);
+        QCOMPARE(editor.removeButton()->isEnabled(), remove);
+        QCOMPARE(editor.addButton()->toolTip(), addTip);
+    }
+
+    void buttonsFollowTheList()
+    {
+        TestHost host;
+        host.add(ref, 24, vec<quint32>({5, 6})).capacity = 2;
+        CfgListEditor editor;
+        editor.setReference(&host, ref, nullptr, {});
+        QVERIFY(!editor.addButton()->isEnabled());
+        editor.list()->item(0)->setSelected(true);
+        QTest::mouseClick(editor.removeButton(), Qt::LeftButton);
+        QCOMPARE(host.value(ref), vec<quint32>({0, 6}));
+        QVERIFY(editor.addButton()->isEnabled());
+        // The host's own calls on the list, with no change of selection: the buttons follow once
+        // events are processed.
+        editor.list()->addValue(7u, ref);
+        editor.list()->clearSelection();
+        QTRY_VERIFY(!editor.addButton()->isEnabled());
+        editor.list()->removeAll(ref);
+        QCOMPARE(host.value(ref), vec<quint32>({0, 0}));
+        QTRY_VERIFY(editor.addButton()->isEnabled());
+    }
 };
 
-QTEST_MAIN(TestCfgListWidget)
-#include "tst_cfglistwidget.moc"
+QTEST_MAIN(TestCollections)
+#include "tst_collections.moc"
