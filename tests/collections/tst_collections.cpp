@@ -204,6 +204,7 @@ private slots:
         allowListConnectionWarning();
         registerCollectionTypes();
     }
+
     void selectionChangeConnectionFails()
     {
         // Deliberate: the list takes no action on a selection change.

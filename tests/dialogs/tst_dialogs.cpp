@@ -89,6 +89,7 @@ struct BlockPage
             (buttonBox->buttonRole(button) == QDialogButtonBox::AcceptRole ? next : cancel) =
                 button;
     }
+
     void tickFuel() const { QTest::mouseClick(boxes.at(0), Qt::LeftButton); }
 
     QWidget *dialog;

@@ -3,6 +3,7 @@
 #include "telecfg/network/countrycode.h"
 #include "telecfg/network/countrytable.h"
 #include "telecfg/network/networkchooser.h"
+#include "tests/support/contexttranslator.h"
 #include "tests/support/datatable.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
@@ -50,17 +51,6 @@ QList<DataEntry> readData()
 
     return entries;
 }
-
-class FakeTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return QString::fromLatin1(context) + QLatin1Char(':') + QString::fromUtf8(source);
-    }
-
-    bool isEmpty() const override { return false; }
-};
 
 // The dialog's widgets, reached by the object names the slots are bound to.
 struct Form
@@ -193,7 +183,7 @@ private slots:
 
     void countryNamesTranslatedOperatorsNot()
     {
-        FakeTranslator translator;
+        ContextTranslator translator;
         QCoreApplication::installTranslator(&translator);
         countryTable.clear(); // the lookup fills an empty table
         QString country, op, unknownCountry, all;
@@ -204,9 +194,10 @@ private slots:
         fillCountryTable();
 
         QCOMPARE(filled, 222);
-        QCOMPARE(country, QStringLiteral("QObject:Polska"));
+        QCOMPARE(country, QStringLiteral("[QObject]Polska"));
         QCOMPARE(op, QStringLiteral("Plus / Polkomtel S.A."));
-        QCOMPARE(unknownCountry + '|' + all, QStringLiteral("QObject:Nieznany|QObject:Wszystkie"));
+        QCOMPARE(unknownCountry + '|' + all,
+                 QStringLiteral("[QObject]Nieznany|[QObject]Wszystkie"));
     }
 
     void startsEmpty()
@@ -352,26 +343,6 @@ private slots:
         QCOMPARE(f.leCountry->text() + '/' + f.leOperator->text(), fields);
         QCOMPARE(f.cbOperator->currentText(), row);
         QCOMPARE(f.dialog.networkId(), result);
-    }
-
-    void modalUse()
-    {
-        Form f;
-        f.dialog.setNetwork((260u << 10) | 1);
-        {
-            ModalCatcher pickAndAccept([&](QWidget *modal) {
-                QCOMPARE(modal, &f.dialog);
-                Form::run(f.leOperator, f.cbOperator, {"@(6) Play / P4 Sp. z o.o."});
-                QTest::mouseClick(f.pbOK, Qt::LeftButton);
-            });
-            QCOMPARE(f.dialog.exec(), int(QDialog::Accepted));
-            QCOMPARE(pickAndAccept.seen.value(0).title, QStringLiteral("Sieć komórkowa"));
-        }
-        QCOMPARE(f.dialog.networkId(), (260u << 10) | 6);
-
-        auto *cancel = f.dialog.findChild<QPushButton *>(QStringLiteral("pbCancel"));
-        ModalCatcher cancelIt([&](QWidget *) { QTest::mouseClick(cancel, Qt::LeftButton); });
-        QCOMPARE(f.dialog.exec(), int(QDialog::Rejected));
     }
 
     void choose_data()
