@@ -563,5 +563,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestFirmware)
+QTEST_APPLESS_MAIN(TestFirmware)
 #include "tst_firmware.moc"
