@@ -6,7 +6,6 @@
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
 #include "telecfg/config/parametertable.h"
-#include "tests/collections/collectiontest.h"
 #include "tests/support/anycontrol.h"
 #include "tests/support/contexttranslator.h"
 #include "tests/support/datatable.h"
@@ -14,17 +13,45 @@
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
+#include <QAbstractItemView>
+#include <QBrush>
 #include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QtTest>
 
-using namespace collectiontest;
 using Grid = QStringList;
 
 namespace {
+// Background colour name of an item ("" when none was painted).
+template <class Item> QString colourOf(const Item *item)
+{
+    const QVariant brush = item->data(Qt::BackgroundRole);
+    if (!brush.isValid())
+        return QString();
+    const QBrush b = brush.value<QBrush>();
+    return b.style() == Qt::SolidPattern ? b.color().name() : QStringLiteral("pattern");
+}
+
+// Double-clicks the cell at `rect` (which opens its editor), types `text`, presses Return
+// and waits until the editor has closed.
+bool editInPlace(QAbstractItemView &view, const QRect &rect, const QString &text)
+{
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, rect.center());
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, rect.center());
+    QPointer<QLineEdit> editor = view.viewport()->findChild<QLineEdit *>();
+    if (!editor)
+        return false;
+    editor->setText(text);
+    QTest::keyClick(editor, Qt::Key_Return);
+    for (int i = 0; i < 100 && editor; ++i)
+        QTest::qWait(10);
+    return editor.isNull();
+}
+
 const int ref = 40;
 const QString network = QStringLiteral("260003 Polska Orange / PTK Centertel Sp. z o.o.");
 
@@ -291,7 +318,7 @@ private slots:
             b.list.remove(ref);
         const QRect first = b.list.count() ? b.list.visualItemRect(b.list.item(0)) : QRect();
         if (op.startsWith("edit"))
-            QVERIFY(collectiontest::editInPlace(b.list, first, input.toString()));
+            QVERIFY(editInPlace(b.list, first, input.toString()));
         QCOMPARE(itemsOf(b.list), items);
         QCOMPARE(b.host.records[ref].value, after);
         QCOMPARE(b.host.writes.size(), writes);
@@ -681,7 +708,7 @@ private slots:
             b.table.show();
             QVERIFY(QTest::qWaitForWindowExposed(&b.table));
             const QRect rect = b.table.visualItemRect(b.table.item(cell.y(), cell.x()));
-            QVERIFY(collectiontest::editInPlace(b.table, rect, input.toString()));
+            QVERIFY(editInPlace(b.table, rect, input.toString()));
         }
         QCOMPARE(gridOf(b.table), grid);
         QCOMPARE(written(b.host), after.isEmpty() ? QVariant() : table(after));
