@@ -39,16 +39,6 @@ struct Form
     bool shown() const { return control.widget->isVisible(); }
 };
 
-// Replaces every record by a copy, as a host does that rebuilds its table: a reference the
-// library kept into the old one then points at freed memory.
-void rebuild(TestHost &host)
-{
-    QMap<int, MainConfigObject> fresh;
-    for (auto it = host.records.cbegin(); it != host.records.cend(); ++it)
-        fresh.insert(it.key(), MainConfigObject(it.value()));
-    host.records.swap(fresh);
-}
-
 struct Visibility
 {
     const char *name;
@@ -150,10 +140,10 @@ private slots:
         Form f(kind);
         const bool rebuilt = life.startsWith(QLatin1String("table"));
         if (rebuilt)
-            host.onWrite = [&host](int, const QVariant &) { rebuild(host); };
+            host.onWrite = [&host](int, const QVariant &) { host.rebuild(); };
         const auto step = [&] {
             if (rebuilt)
-                rebuild(host);
+                host.rebuild();
             return &f.control;
         };
         if (life == QLatin1String("nulls given"))

@@ -13,6 +13,7 @@
 #include "tests/support/anycontrol.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
+#include "tests/support/testhost.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -199,11 +200,10 @@ MainConfigObject randomRecord(int home)
 }
 
 // A parameter table whose every answer is drawn from the run's generator.
-class RandomHost : public MainConfigIFace
+// The test host's records, with every answer but the value drawn from the generator.
+class RandomHost : public TestHost
 {
 public:
-    MainConfigObject &object(int ref) override { return records[ref]; }
-    QVariant value(int ref) override { return records[ref].value; }
     void setValue(int ref, QVariant v) override
     {
         if (chance(85))
@@ -223,16 +223,6 @@ public:
     quint32 uintOfName(QString, QList<NamedUInt>) override { return randomNumber(); }
     bool isStoredItem(int, QVariant) override { return chance(50); }
 
-    // Every record replaced by a copy: references into the old ones point at freed memory.
-    void rebuild()
-    {
-        QMap<int, MainConfigObject> fresh;
-        for (auto it = records.cbegin(); it != records.cend(); ++it)
-            fresh.insert(it.key(), MainConfigObject(it.value()));
-        records.swap(fresh);
-    }
-
-    QMap<int, MainConfigObject> records;
     bool rebuildOnWrite = false;
 
 private:

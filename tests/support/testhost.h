@@ -32,6 +32,15 @@ public:
         return object;
     }
     void setVersion(quint32 version) { records[2].value = version; }
+    // Replaces every record by a copy, as a host does that rebuilds its table: a reference the
+    // library kept into the old one then points at freed memory.
+    void rebuild()
+    {
+        QMap<int, MainConfigObject> fresh;
+        for (auto it = records.cbegin(); it != records.cend(); ++it)
+            fresh.insert(it.key(), MainConfigObject(it.value()));
+        records.swap(fresh);
+    }
 
     MainConfigObject &object(int ref) override { return records[ref]; }
     QVariant value(int ref) override { return records[ref].value; }
