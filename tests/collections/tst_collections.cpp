@@ -786,14 +786,9 @@ private slots:
 
     void addAsksByElementType()
     {
-        QFETCH(int, type);
-        QFETCH(QVariant, value);
-        QFETCH(QVariant, names);
-        QFETCH(QVariantList, bounds);
-        QFETCH(int, maxLength);
-        QFETCH(QString, offered);
-        QFETCH(QString, answer);
-        QFETCH(QVariant, after);
+        auto [type, value, names, bounds, maxLength, offered, answer, after] =
+            fetch<int, QVariant, QVariant, QVariantList, int, QString, QString, QVariant>(
+                "type", "value", "names", "bounds", "maxLength", "offered", "answer", "after");
 
         ParameterTable table;
         MainConfigObject record;
@@ -814,7 +809,7 @@ private slots:
         const int before = editor.list()->count();
 
         QString seen;
-        ModalCatcher catcher([&](QWidget *modal) {
+        ModalCatcher catcher([&, answer = answer](QWidget *modal) {
             seen = ::offered(modal);
             ::answer(modal, answer);
         });
@@ -826,9 +821,8 @@ private slots:
 
     void buttons_data()
     {
-        QTest::addColumn<QVariant>("value");
-        // "select", "disable", "gate", "list off" (the host disables the list), "unbind"
-        columns<QString, bool, bool, QString>("op", "add", "remove", "addTip");
+        // op: "select", "disable", "gate", "list off" (the host disables the list), "unbind"
+        columns<QVariant, QString, bool, bool, QString>("value", "op", "add", "remove", "addTip");
 
         const QVariant room = vec<quint32>({5, 0});
         const QVariant full = vec<quint32>({5, 6});

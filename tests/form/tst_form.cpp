@@ -341,8 +341,7 @@ private slots:
 
     void followsEdits()
     {
-        QFETCH(QList<int>, refs);
-        QFETCH(QVariantList, values);
+        auto [refs, values] = fetch<QList<int>, QVariantList>("refs", "values");
         ParameterTable table;
         QVERIFY(table.loadJson(stateJson));
         FormState state(&table);

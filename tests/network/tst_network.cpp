@@ -362,14 +362,12 @@ private slots:
 
     void choose()
     {
-        QFETCH(quint32, preset);
-        QFETCH(QString, button);
-        QFETCH(QString, operatorText);
-        QFETCH(QString, shownCountry);
-        QFETCH(qint64, result);
+        auto [preset, button, operatorText, shownCountry, result] =
+            fetch<quint32, QString, QString, QString, qint64>("preset", "button", "operatorText",
+                                                              "shownCountry", "result");
         QWidget parent;
         QString country;
-        ModalCatcher user([&](QWidget *modal) {
+        ModalCatcher user([&, button = button, operatorText = operatorText](QWidget *modal) {
             country = modal->findChild<QLineEdit *>(QStringLiteral("leCountry"))->text();
             if (!operatorText.isNull()) {
                 auto *field = modal->findChild<QLineEdit *>(QStringLiteral("leOperator"));
