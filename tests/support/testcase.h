@@ -35,7 +35,6 @@ public:
     ExpectedWarning(const ExpectedWarning &) = delete;
     ExpectedWarning &operator=(const ExpectedWarning &) = delete;
 
-
 private:
     int index;
 };
