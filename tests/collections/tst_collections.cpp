@@ -20,7 +20,6 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
-#include <QStyledItemDelegate>
 #include <QtTest>
 
 using Grid = QStringList;

@@ -21,6 +21,11 @@
 #include <functional>
 #include <utility>
 
+using Options = QMap<int, QPair<QString, QString>>;
+Q_DECLARE_METATYPE(Options)
+using HostAction = std::function<void(CfgComboBox &)>;
+Q_DECLARE_METATYPE(HostAction)
+
 namespace {
 const QString spinRed = QStringLiteral("QSpinBox{background: red;}");
 const QString spinYellow = QStringLiteral("QSpinBox{background: yellow;}");
@@ -57,14 +62,6 @@ QString foreign(QString text)
         QLocale::system().decimalPoint() == QLatin1Char('.') ? QLatin1Char(',') : QLatin1Char('.');
     return text.replace(QLatin1Char('#'), other);
 }
-} // namespace
-
-using Options = QMap<int, QPair<QString, QString>>;
-Q_DECLARE_METATYPE(Options)
-using HostAction = std::function<void(CfgComboBox &)>;
-Q_DECLARE_METATYPE(HostAction)
-
-namespace {
 QString comboSheet(const char *colour)
 {
     return QStringLiteral("QComboBox{background-color: ") + QLatin1String(colour) +

@@ -203,9 +203,7 @@ private slots:
     // Every run shows the flags as they stand; only a confirmed run takes the boxes' values.
     void skipReadExec()
     {
-        QFETCH(int, flags);
-        QFETCH(int, clicks);
-        QFETCH(bool, ok);
+        auto [flags, clicks, ok] = fetch<int, int, bool>("flags", "clicks", "ok");
 
         ContextTranslator translator;
         QCoreApplication::installTranslator(&translator);
@@ -214,7 +212,7 @@ private slots:
         for (int run = 0; run < 2; ++run) {
             QStringList texts;
             int seen = 0;
-            ModalCatcher user([&](QWidget *modal) {
+            ModalCatcher user([&, clicks = clicks, ok = ok](QWidget *modal) {
                 texts << modal->windowTitle()
                       << modal->findChild<QLabel *>(QStringLiteral("lTitle"))->text();
                 for (int i = 0; i < boxNames.size(); ++i) {
@@ -354,15 +352,14 @@ private slots:
     // The user picks an item and adds an argument.
     void cmdExec()
     {
-        QFETCH(int, button);
-        QFETCH(int, result);
+        auto [button, result] = fetch<int, int>("button", "result");
 
         ContextTranslator translator;
         QCoreApplication::installTranslator(&translator);
         Commands commands{{0, "Reset 5"}, {1, "Get Speed"}};
         CmdDialog dialog(nullptr, commands);
         QCoreApplication::removeTranslator(&translator);
-        ModalCatcher catcher([button](QWidget *modal) {
+        ModalCatcher catcher([button = button](QWidget *modal) {
             QCOMPARE(modal->findChild<QLabel *>()->text(), QStringLiteral("[CmdDialog]Polecenie"));
             QComboBox *box = commandBox(modal);
             QCOMPARE(modal->focusWidget(), box);
@@ -501,13 +498,12 @@ private slots:
     // The tab that held the section picked elsewhere takes the free one: the two swap.
     void fuelPicks()
     {
-        QFETCH(Picks, picks);
-        QFETCH(QList<int>, sections);
+        auto [picks, sections] = fetch<Picks, QList<int>>("picks", "sections");
 
         QWidget parent;
         ReadBlockConfigWizard wizard(QString(), &parent);
         QScopedPointer<ModalCatcher> user(userOf(
-            [&](const BlockPage &page) {
+            [&, picks = picks](const BlockPage &page) {
                 page.tickFuel();
                 for (const auto &[tab, section] : picks) {
                     QComboBox *combo = page.fuelTabs.at(tab - 1);
@@ -533,13 +529,12 @@ private slots:
     // block choice (1).
     void results()
     {
-        QFETCH(int, result);
-        QFETCH(QString, filePath);
+        auto [result, filePath] = fetch<int, QString>("result", "filePath");
 
         QWidget parent;
         ReadBlockConfigWizard wizard(QStringLiteral("start.cfg"), &parent);
         QScopedPointer<ModalCatcher> user(userOf(
-            [result](const BlockPage &page) {
+            [result = result](const BlockPage &page) {
                 if (result == 1)
                     page.dialog->close();
                 else

@@ -173,15 +173,6 @@ struct Form
     }
 };
 
-struct StateForm : Form
-{
-    StateForm()
-        : Form(stateJson, {new CfgCheckBox, new CfgSpinBox, new CfgRadioButton, new CfgRadioButton,
-                           new CfgLineEdit})
-    {
-    }
-};
-
 // Every control kind.
 struct UndoForm : Form
 {
@@ -378,7 +369,8 @@ private slots:
     void formShowsEveryChange()
     {
         auto [action, ref, property] = fetch<int, int, QByteArray>("action", "ref", "property");
-        StateForm form;
+        Form form(stateJson, {new CfgCheckBox, new CfgSpinBox, new CfgRadioButton,
+                              new CfgRadioButton, new CfgLineEdit});
         switch (action) {
         case 0:
             QTest::mousePress(form.find<CfgRadioButton>(104), Qt::LeftButton);
@@ -411,7 +403,8 @@ private slots:
     void editorKeepsItsCursor()
     {
         // The control the user types in already shows its value: it is not loaded again.
-        StateForm form;
+        Form form(stateJson, {new CfgCheckBox, new CfgSpinBox, new CfgRadioButton,
+                              new CfgRadioButton, new CfgLineEdit});
         auto *edit = form.find<CfgLineEdit>(105);
         edit->setFocus();
         edit->setCursorPosition(1);
@@ -531,15 +524,13 @@ private slots:
     // modified, and restoring when chosen), undo and redo.
     void contextMenu()
     {
-        QFETCH(int, ref);
-        QFETCH(bool, ownEntries);
-        QFETCH(bool, modified);
+        auto [ref, ownEntries, modified] = fetch<int, bool, bool>("ref", "ownEntries", "modified");
         UndoForm form;
         form.run("click:101");
         QWidget *control = form.control(ref);
         QStringList entries;
         QAction *restore = nullptr;
-        QTimer::singleShot(0, [&] {
+        QTimer::singleShot(0, [&, modified = modified] {
             QMenu *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             QVERIFY(menu);
             for (QAction *action : menu->actions()) {
@@ -642,9 +633,8 @@ private slots:
 
     void leaveOut()
     {
-        QFETCH(QList<int>, uncheck);
-        QFETCH(int, key);
-        QFETCH(QList<int>, reverted);
+        auto [uncheck, key, reverted] =
+            fetch<QList<int>, int, QList<int>>("uncheck", "key", "reverted");
         ParameterTable table;
         QVERIFY(table.loadJson(fourChanges));
         const QList<int> refs = table.parameters();
@@ -655,7 +645,7 @@ private slots:
         ChangeReview review(&table);
         auto *view = review.findChild<QTreeView *>();
         QString summary;
-        ModalCatcher catcher([&](QWidget *modal) {
+        ModalCatcher catcher([&, uncheck = uncheck, key = key](QWidget *modal) {
             for (int row : uncheck) {
                 view->setCurrentIndex(view->model()->index(row, 2)); // any column of the row
                 QTest::keyClick(view, Qt::Key_Space);
@@ -711,9 +701,7 @@ private slots:
 
     void question()
     {
-        QFETCH(bool, takenBack);
-        QFETCH(int, answer);
-        QFETCH(bool, saves);
+        auto [takenBack, answer, saves] = fetch<bool, int, bool>("takenBack", "answer", "saves");
         ParameterTable table;
         QVERIFY(table.loadJson(R"({"parameters": [{"ref": 10, "label": "Inna", "value": 380}]})"));
         QWidget window;
@@ -725,12 +713,12 @@ private slots:
             table.setValue(10, 380);
         window.show();
         int saveCalls = 0;
-        ChangeReview::askBeforeClosing(&window, &table, [&] {
+        ChangeReview::askBeforeClosing(&window, &table, [&, saves = saves] {
             ++saveCalls;
             return saves;
         });
         QString details;
-        ModalCatcher catcher([&](QWidget *modal) {
+        ModalCatcher catcher([&, answer = answer](QWidget *modal) {
             auto *box = qobject_cast<QMessageBox *>(modal);
             details = box->informativeText();
             if (QAbstractButton *button = box->button(QMessageBox::StandardButton(answer)))

@@ -12,7 +12,6 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTranslator>
 #include <QtTest>
 #include <algorithm>
 

@@ -101,8 +101,7 @@ private slots:
 
     void dialog()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, title);
+        auto [name, title] = fetch<QString, QString>("name", "title");
         QHash<int, QString> commands{{1, QStringLiteral("RESET")}};
         std::unique_ptr<QWidget> dialog;
         if (name == "cmddialog")
@@ -130,7 +129,7 @@ private slots:
         }
         // The wizard builds its dialog inside exec: look at it there, then cancel.
         bool seen = false;
-        ModalCatcher catcher([&](QWidget *shown) {
+        ModalCatcher catcher([&, name = name, title = title](QWidget *shown) {
             if (!seen)
                 check(shown, title, name);
             seen = true;
