@@ -1,15 +1,12 @@
 # SPDX-FileCopyrightText: 2026 The telecfg authors
 # SPDX-License-Identifier: MIT
-# The line edit's patterns and the decimal spin box follow the system locale, which the
-# toolkit reads from the environment at start-up: run their suites under a point locale
-# and again under a comma one.
-foreach(suite tst_cfglineedit tst_cfgdoublespinbox)
-    set_tests_properties(${suite} PROPERTIES ENVIRONMENT
-        "${telecfg_test_environment};LC_ALL=C;LANG=C")
-    add_test(NAME ${suite}_comma COMMAND ${suite})
-    set_tests_properties(${suite}_comma PROPERTIES ENVIRONMENT
-        "${telecfg_test_environment};LC_ALL=pl_PL.UTF-8;LANG=pl_PL.UTF-8")
-endforeach()
+# The value controls' suite reads numbers through the system locale, which the toolkit takes
+# from the environment at start-up: run it under a point locale and again under a comma one.
+set_tests_properties(tst_valuecontrols PROPERTIES ENVIRONMENT
+    "${telecfg_test_environment};LC_ALL=C;LANG=C")
+add_test(NAME tst_valuecontrols_comma COMMAND tst_valuecontrols)
+set_tests_properties(tst_valuecontrols_comma PROPERTIES ENVIRONMENT
+    "${telecfg_test_environment};LC_ALL=pl_PL.UTF-8;LANG=pl_PL.UTF-8")
 
 # The default images come from their own optional library.
 target_link_libraries(tst_defaultimages PRIVATE telecfg_images)

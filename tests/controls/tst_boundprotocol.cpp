@@ -1,32 +1,41 @@
 // SPDX-FileCopyrightText: 2026 The telecfg authors
 // SPDX-License-Identifier: MIT
-// The protocol every bound control shares, run over every kind of control.
+// The protocol every bound control shares, run over every kind of control, and object
+// lifetime as hosts live it: widgets the host deletes or never had, controls deleted from
+// their own signals, a parameter table rebuilt between calls, and the library's dialogs
+// deleted with their parent while open.
+#include "telecfg/collections/cfglistwidget.h"
+#include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/dialogs/gui.h"
+#include "telecfg/import/readblockconfigwizard.h"
 #include "tests/support/anycontrol.h"
 #include "tests/support/datatable.h"
+#include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
 #include "tests/support/testhost.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QtTest>
 
 namespace {
-// One control on a shown form, with a label and two related widgets beside it.
+const int ref = 10;
+
+// One control on a shown form the host owns, with a label and two related widgets.
 struct Form
 {
-    QWidget form;
+    QPointer<QWidget> form = new QWidget;
     AnyControl control;
-    QLabel label{&form}, related1{&form}, related2{&form};
+    QPointer<QLabel> label = new QLabel(form), related1 = new QLabel(form),
+                     related2 = new QLabel(form);
 
-    explicit Form(const QString &kind) : control(makeAnyControl(kind))
-    {
-        control.widget->setParent(&form);
-        form.show();
-    }
+    explicit Form(const QString &kind) : control(kind, form) { form->show(); }
+    ~Form() { delete form.data(); }
     void bind(MainConfigIFace *host)
     {
-        control.setReference(host, 10, &label, {&related1, &related2});
+        control.setReference(host, ref, label, {related1, related2});
     }
+
     bool shown() const { return control.widget->isVisible(); }
 };
 
@@ -57,6 +66,20 @@ const Visibility visibilities[] = {
 };
 } // namespace
 
+// Deletes its target later, from whatever signal it is connected to.
+class Dropper : public QObject
+{
+    Q_OBJECT
+public:
+    QPointer<QObject> target;
+public slots:
+    void drop()
+    {
+        if (target)
+            target->deleteLater();
+    }
+};
+
 class TestBoundProtocol : public TestCase
 {
     Q_OBJECT
@@ -80,7 +103,7 @@ private slots:
         const Visibility &c = visibilities[row];
         TestHost host;
         host.setVersion(c.version);
-        MainConfigObject &object = host.add(10, 1, 1);
+        MainConfigObject &object = host.add(ref, 1, 1);
         object.minVersions = c.min;
         object.maxVersions = c.max;
         object.hardwareIds = c.ids;
@@ -92,41 +115,70 @@ private slots:
         f.bind(&host);
         f.control.updateControl(c.id);
         QCOMPARE(f.shown(), c.visible);
-        QCOMPARE(f.related1.isVisible(), c.visible);
-        QVERIFY(f.label.isVisible()); // the label given to the binding is the host's to show
-        QCOMPARE(host.records[10].control, f.control.widget.get());
-        QCOMPARE(host.records[10].label, &f.label);
+        QCOMPARE(f.related1->isVisible(), c.visible);
+        QVERIFY(f.label->isVisible()); // the label given to the binding is the host's to show
+        QCOMPARE(host.records[ref].control, f.control.widget.data());
+        QCOMPARE(host.records[ref].label, f.label.data());
     }
 
-    void refreshAndHiddenFollowTheLiveRecord_data() { kinds(); }
-
-    void refreshAndHiddenFollowTheLiveRecord()
+    void protocolOverLifetimes_data()
     {
-        QFETCH(QString, kind);
+        columns<QString, QString>("kind", "life");
+        for (const QString &kind : anyControlKinds())
+            for (const char *life : {"plain", "label and related deleted", "nulls given",
+                                     "table rebuilt at every step"})
+                QTest::addRow("%s: %s", qPrintable(kind), life) << kind << QString(life);
+    }
+
+    // The whole protocol runs whatever the host did to the widgets beside the control or to
+    // its table, and the widgets that remain follow it.
+    void protocolOverLifetimes()
+    {
+        auto [kind, life] = fetch<QString, QString>("kind", "life");
         TestHost host;
-        host.add(10, 1, 1).hardwareIds = {7};
+        addEditableRecord(host, kind, ref).hardwareIds = {7};
         Form f(kind);
-        f.bind(&host);
-        f.control.updateControl(7);
-        QVERIFY(f.shown());
-        f.control.updateControl(8);
-        f.control.updateControl(0); // 0 means the last id given
-        QVERIFY(!f.shown());
-        f.control.updateControl(7);
+        const bool rebuilt = life.startsWith(QLatin1String("table"));
+        if (rebuilt)
+            host.onWrite = [&host](int, const QVariant &) { host.rebuild(); };
+        const auto step = [&] {
+            if (rebuilt)
+                host.rebuild();
+            return &f.control;
+        };
+        if (life == QLatin1String("nulls given"))
+            f.control.setReference(&host, ref, nullptr, {nullptr, f.related2, nullptr});
+        else
+            f.bind(&host);
+        if (life.startsWith(QLatin1String("label"))) {
+            delete f.label.data();
+            delete f.related1.data();
+        }
+        step()->updateControl(7);
+        QVERIFY(f.shown() && f.related2->isVisible());
+        step()->updateControl(8);
+        step()->updateControl(0); // 0 means the last id given
+        QVERIFY(!f.shown() && !f.related2->isVisible());
+        step()->updateControl(7);
+        step()->setHidden(true);
+        QVERIFY(host.records[ref].hidden && !f.related2->isVisible());
+        step()->setHidden(false);
+        QVERIFY(!host.records[ref].hidden && f.related2->isVisible());
+        step()->userEdit();
+        QVERIFY(!host.writes.isEmpty());
+        step()->updateEnableState(false);
+        step()->setEnabled(true);
+        step()->setError(true);
+        step()->setReference(&host, ref, f.label, {f.related1, f.related2});
+        step()->userEdit();
+        QCOMPARE(host.records[ref].control, f.control.widget.data());
 
-        f.control.setHidden(true);
-        QVERIFY(host.records[10].hidden);
-        QVERIFY(!f.related1.isVisible());
-        f.control.setHidden(false);
-        QVERIFY(!host.records[10].hidden);
-        QVERIFY(f.related1.isVisible());
-
-        // The host rebuilds its table: the control must look at the new record.
+        // A refresh reads the rebuilt record, not the one it was bound to.
         host.records.clear();
         host.setVersion(1);
-        host.add(10, 1, 1).minVersions = {{0, 5}};
+        host.add(ref, 1, 1).minVersions = {{0, 5}};
         f.control.setHidden(false); // shows only what the other rules allow
-        QVERIFY(!f.shown());
+        QVERIFY(!f.shown() && !f.related2->isVisible());
     }
 
     void enableGateAndErrorFlag_data() { kinds(); }
@@ -135,11 +187,11 @@ private slots:
     {
         QFETCH(QString, kind);
         TestHost host;
-        host.add(10, 1, 1);
-        AnyControl control = makeAnyControl(kind);
+        host.add(ref, 1, 1);
+        AnyControl control(kind);
         control.setError(true);
         QVERIFY(control.isError());
-        control.setReference(&host, 10, nullptr, {}); // binding clears it
+        control.setReference(&host, ref, nullptr, {}); // binding clears it
         QVERIFY(!control.isError());
 
         // setEnabled (or the gate, updateEnableState) with the state it must leave.
@@ -164,25 +216,105 @@ private slots:
     void unboundOrNullInterfaceNeverCrashes()
     {
         QFETCH(QString, kind);
-        AnyControl control = makeAnyControl(kind);
+        AnyControl control(kind);
         QLabel label;
         for (int pass = 0; pass < 2; ++pass) {
             if (pass == 1)
-                control.setReference(nullptr, 10, &label, {&label}); // a host passing no table
+                control.setReference(nullptr, ref, &label, {&label}); // a host passing no table
             control.updateControl(3);
-            if (control.userEdit)
-                control.userEdit();
+            control.userEdit();
             control.updateEnableState(false);
             control.setHidden(false);
             control.updateControl(0);
         }
     }
 
+    void deletedFromItsOwnSignal_data()
+    {
+        columns<QString, bool>("kind", "wholeForm");
+        for (const QString &kind : anyControlKinds()) {
+            if (!AnyControl(kind).editSignal())
+                continue; // a kind with no signal of its own (the list editor: its list is "list")
+            QTest::addRow("%s: control", qPrintable(kind)) << kind << false;
+            QTest::addRow("%s: form", qPrintable(kind)) << kind << true;
+        }
+    }
+
+    void deletedFromItsOwnSignal()
+    {
+        auto [kind, wholeForm] = fetch<QString, bool>("kind", "wholeForm");
+        TestHost host;
+        addEditableRecord(host, kind, ref);
+        Form f(kind);
+        f.bind(&host);
+        const QPointer<QWidget> self = f.control.widget;
+        Dropper dropper;
+        dropper.target = wholeForm ? static_cast<QObject *>(f.form) : self.data();
+        QVERIFY(QObject::connect(self, f.control.editSignal(), &dropper, SLOT(drop())));
+        f.control.userEdit();
+        QVERIFY(!host.writes.isEmpty());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(self.isNull());
+        QCOMPARE(f.form.isNull(), wholeForm);
+    }
+
+    void dialogDeletedWithItsParent_data()
+    {
+        QTest::addColumn<int>("opener");
+        row("list: duplicate add", 0);
+        row("list: in-place edit onto a present text", 1);
+        row("table: duplicate add", 2);
+        row("table: cell emptied", 3);
+        row("import wizard", 4);
+    }
+
+    // Whatever of the library opens a modal dialog and goes on after it, the host deletes the
+    // page under it while it is open.
+    void dialogDeletedWithItsParent()
+    {
+        QFETCH(int, opener);
+        TestHost host;
+        QPointer<QWidget> form = new QWidget;
+        form->show();
+        ModalCatcher catcher([&form](QWidget *) { delete form.data(); });
+        QLineEdit editor;
+        if (opener <= 1) {
+            addEditableRecord(host, QStringLiteral("list"), ref);
+            auto *list = new CfgListWidget(form);
+            list->setReference(&host, ref, nullptr, {});
+            QCOMPARE(list->addValue(QVariant(5u), ref), 0);
+            if (opener == 0) {
+                QCOMPARE(list->addValue(QVariant(5u), ref), 1);
+            } else {
+                list->setCurrentRow(0);
+                list->ListWidgetEditEnd(&editor, QAbstractItemDelegate::NoHint);
+            }
+        } else if (opener <= 3) {
+            addEditableRecord(host, QStringLiteral("table"), ref);
+            auto *table = new CfgTableWidget(form);
+            table->setReference(&host, ref, nullptr, {});
+            const QVariant row = QVariant(QStringList{QStringLiteral("5"), QStringLiteral("x")});
+            QCOMPARE(table->addValue(row, ref), 0);
+            if (opener == 2) {
+                QCOMPARE(table->addValue(row, ref), 1);
+            } else {
+                table->setCurrentCell(0, 0);
+                table->currentItem()->setText(QString());
+                table->ListWidgetEditEnd(nullptr, QAbstractItemDelegate::NoHint);
+            }
+        } else {
+            auto *wizard = new ReadBlockConfigWizard(QStringLiteral("/nonexistent"), form);
+            QCOMPARE(wizard->exec(QString()), 1);
+        }
+        QVERIFY(form.isNull());
+        QCOMPARE(catcher.seen.size(), 1);
+    }
+
 private:
-    static void kinds(const QStringList &names = anyControlKinds())
+    static void kinds()
     {
         QTest::addColumn<QString>("kind");
-        for (const QString &kind : names)
+        for (const QString &kind : anyControlKinds())
             row(qPrintable(kind), kind);
     }
 };

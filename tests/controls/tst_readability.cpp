@@ -42,12 +42,6 @@ double contrast(QRgb a, QRgb b)
     return (qMax(x, y) + 0.05) / (qMin(x, y) + 0.05);
 }
 
-QRgb grey(QRgb pixel)
-{
-    const int g = qGray(pixel);
-    return qRgb(g, g, g);
-}
-
 QPalette darkPalette()
 {
     QPalette dark;
@@ -90,9 +84,8 @@ struct Bound
     TestHost host;
     AnyControl control;
 
-    Bound(const QString &kind, const QString &state) : control(makeAnyControl(kind))
+    Bound(const QString &kind, const QString &state) : control(kind, &form)
     {
-        control.widget->setParent(&form);
         control.widget->setFocusPolicy(Qt::NoFocus);
         control.widget->move(0, 30);
         control.widget->resize(
@@ -128,7 +121,7 @@ struct Bound
         form.show();
     }
 
-    QWidget *widget() const { return control.widget.get(); }
+    QWidget *widget() const { return control.widget; }
     auto *view() const { return qobject_cast<QAbstractItemView *>(widget()); }
 
     // Where the value's text stands, in the coordinates of grab()'s image.
@@ -150,173 +143,166 @@ class TestReadability : public TestCase
     Q_OBJECT
 
 private slots:
-    void warnsOnceWithoutImages();
-    void initTestCase();
-    void textReadsInEveryPalette_data();
-    void textReadsInEveryPalette();
-    void stateToldBeyondColour_data();
-    void stateToldBeyondColour();
-    void accessibleNameIsTheLabel_data();
-    void accessibleNameIsTheLabel();
-    void descriptionFollowsState();
+    // Runs first: this suite ships no images, so the first control shown whose sheet names
+    // images warns once, naming them and how to get them; no other warns again.
+    void warnsOnceWithoutImages()
+    {
+        static QStringList warnings;
+        const QtMessageHandler previous = qInstallMessageHandler(
+            [](QtMsgType type, const QMessageLogContext &, const QString &message) {
+                if (type == QtWarningMsg && message.startsWith(QLatin1String("telecfg:")))
+                    warnings.append(message);
+            });
+        TestHost host;
+        host.add(3, 1, true).minVersions[0] = 0;
+        host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
+        host.records[5].minVersions[0] = 0;
+        QWidget form;
+        auto *unbound = new CfgComboBox(&form); // no sheet yet: nothing to look for
+        auto *box = new CfgCheckBox(&form);
+        auto *combo = new CfgComboBox(&form);
+        form.show();
+        box->setReference(&host, 3, nullptr, {});
+        combo->setReference(&host, 5, nullptr, {});
+        box->updateControl(1);
+        combo->updateControl(1);
+        box->hide();
+        box->show();
+        unbound->setReference(&host, 5, nullptr, {});
+        unbound->hide();
+        unbound->show();
+        qInstallMessageHandler(previous);
+        QCOMPARE(warnings.size(), 1);
+        QVERIFY2(warnings[0].contains(QLatin1String(":/images/checkbox_grey_unchecked.png")) &&
+                     warnings[0].contains(QLatin1String("initDefaultImages()")),
+                 qPrintable(warnings[0]));
+    }
+
+    void initTestCase()
+    {
+        allowListConnectionWarning();
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    }
+
+    void textReadsInEveryPalette_data()
+    {
+        columns<QString, QString, bool, bool>("kind", "state", "dark", "darkStates");
+        for (const char *kind :
+             {"lineedit", "spinbox", "doublespinbox", "combobox", "list", "table"})
+            for (const char *state : {"normal", "modified", "invalid", "disabled"}) {
+                QTest::addRow("%s %s default", kind, state) << kind << state << false << false;
+                QTest::addRow("%s %s dark", kind, state) << kind << state << true << false;
+                QTest::addRow("%s %s dark, dark states", kind, state)
+                    << kind << state << true << true;
+            }
+    }
+
+    // Text reaches 4.5:1 against the background the state paints, in any palette.
+    void textReadsInEveryPalette()
+    {
+        auto [kind, state, dark, darkStates] =
+            fetch<QString, QString, bool, bool>("kind", "state", "dark", "darkStates");
+        QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+        setStateColours(darkStates ? StateColours::Dark : StateColours::Standard);
+        Bound bound(kind, state);
+        setStateColours(StateColours::Standard);
+        QVERIFY(QTest::qWaitForWindowExposed(&bound.form));
+        const QImage image = bound.widget()->grab().toImage();
+        const double ratio = textContrast(image, bound.textArea());
+        qDebug("contrast %.2f", ratio); // for the record of the lowest per palette and state
+        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("contrast %1").arg(ratio)));
+    }
+
+    void stateToldBeyondColour_data()
+    {
+        columns<QString, QString, QString>("kind", "state", "words");
+        for (const char *kind :
+             {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "radiobutton"})
+            QTest::addRow("%s modified", kind) << kind << "modified"
+                                               << "Zmieniona";
+        for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox"})
+            QTest::addRow("%s invalid", kind) << kind << "invalid"
+                                              << "Nieprawidłowa";
+        // The editors say it of the parameter, and each element of itself.
+        row("list modified", "list", "modified", "Zmieniona\tZmodyfikowany element");
+        row("list invalid", "list", "invalid", "Nieprawidłowa\tNieprawidłowy element");
+        row("table modified", "table", "modified", "Zmieniona\tZmodyfikowany element");
+        row("table invalid", "table", "invalid", "Nieprawidłowa\tNieprawidłowy element");
+    }
+
+    // A modified or invalid control says so in its tool tip (after the host's own text) and
+    // its accessible description, and shows a cue that tells the state in greyscale too: the
+    // state's rendering differs from the normal one by at least 3:1 somewhere.
+    void stateToldBeyondColour()
+    {
+        auto [kind, state, words] = fetch<QString, QString, QString>("kind", "state", "words");
+        Bound normal(kind, QStringLiteral("normal"));
+        Bound marked(kind, state);
+        QVERIFY(QTest::qWaitForWindowExposed(&marked.form));
+        const QString tip = marked.widget()->toolTip();
+        QVERIFY2(tip.startsWith(QStringLiteral("Pojemność zbiornika\n")), qPrintable(tip));
+        QVERIFY2(
+            tip.section(QLatin1Char('\n'), 1).startsWith(words.section(QLatin1Char('\t'), 0, 0)),
+            qPrintable(tip));
+        if (auto *items = marked.view())
+            QCOMPARE(items->model()->index(0, 0).data(Qt::AccessibleDescriptionRole).toString(),
+                     words.section(QLatin1Char('\t'), 1));
+        QCOMPARE(normal.widget()->toolTip(), QStringLiteral("Pojemność zbiornika"));
+        QCOMPARE(marked.widget()->accessibleDescription(), tip);
+
+        const QImage plain =
+            normal.widget()->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+        const QImage cued =
+            marked.widget()->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+        double most = 1;
+        for (int y = 0; y < qMin(plain.height(), cued.height()); ++y)
+            for (int x = 0; x < qMin(plain.width(), cued.width()); ++x)
+                most = qMax(most, contrast(plain.pixel(x, y), cued.pixel(x, y)));
+        QVERIFY2(most >= 3, qPrintable(QStringLiteral("greyscale difference %1").arg(most)));
+    }
+
+    void accessibleNameIsTheLabel_data()
+    {
+        columns<QString, QString>("kind", "name");
+        for (const char *kind :
+             {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "list", "table"})
+            row(kind, kind, "Pojemność");
+        row("radiobutton", "radiobutton", "Pojemność: Ręcznie");
+    }
+
+    // A screen reader names every kind after its label; a radio button adds its own choice.
+    void accessibleNameIsTheLabel()
+    {
+        auto [kind, name] = fetch<QString, QString>("kind", "name");
+        AnyControl control(kind);
+        if (auto *radio = qobject_cast<CfgRadioButton *>(control.widget.data()))
+            radio->setText(QStringLiteral("Ręcznie"));
+        TestHost host;
+        addEditableRecord(host, kind, ref).minVersions[0] = 0;
+        QLabel label(QStringLiteral("&Pojemność:"));
+        control.setReference(&host, ref, &label, {});
+        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(control.widget.data());
+        QVERIFY(face);
+        QCOMPARE(face->text(QAccessible::Name), name);
+    }
+
+    // The description follows every change of state (the toolkit announces each change of a
+    // description to assistive technology; the offscreen test platform has none to observe).
+    void descriptionFollowsState()
+    {
+        Bound bound(QStringLiteral("spinbox"), QStringLiteral("normal"));
+        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(bound.widget());
+        QCOMPARE(face->text(QAccessible::Description), QStringLiteral("Pojemność zbiornika"));
+        bound.host.invalid.insert(ref);
+        bound.host.records[ref].value = 120u; // as the host holds it
+        bound.control.updateControl(0);
+        QCOMPARE(face->text(QAccessible::Description),
+                 QStringLiteral("Pojemność zbiornika\nNieprawidłowa: poza zakresem 0–100"));
+        bound.host.invalid.clear();
+        bound.control.updateControl(0);
+        QCOMPARE(face->text(QAccessible::Description), QStringLiteral("Pojemność zbiornika"));
+    }
 };
-
-// Runs first: this suite ships no images, so the first control shown whose sheet names
-// images warns once, naming them and how to get them; no other warns again.
-void TestReadability::warnsOnceWithoutImages()
-{
-    static QStringList warnings;
-    const QtMessageHandler previous = qInstallMessageHandler(
-        [](QtMsgType type, const QMessageLogContext &, const QString &message) {
-            if (type == QtWarningMsg && message.startsWith(QLatin1String("telecfg:")))
-                warnings.append(message);
-        });
-    TestHost host;
-    host.add(3, 1, true).minVersions[0] = 0;
-    host.add(5, 0, QStringLiteral("a")).options[0] = {QStringLiteral("a"), QStringLiteral("a")};
-    host.records[5].minVersions[0] = 0;
-    QWidget form;
-    auto *unbound = new CfgComboBox(&form); // no sheet yet: nothing to look for
-    auto *box = new CfgCheckBox(&form);
-    auto *combo = new CfgComboBox(&form);
-    form.show();
-    box->setReference(&host, 3, nullptr, {});
-    combo->setReference(&host, 5, nullptr, {});
-    box->updateControl(1);
-    combo->updateControl(1);
-    box->hide();
-    box->show();
-    unbound->setReference(&host, 5, nullptr, {});
-    unbound->hide();
-    unbound->show();
-    qInstallMessageHandler(previous);
-    QCOMPARE(warnings.size(), 1);
-    QVERIFY2(warnings[0].contains(QLatin1String(":/images/checkbox_grey_unchecked.png")) &&
-                 warnings[0].contains(QLatin1String("initDefaultImages()")),
-             qPrintable(warnings[0]));
-}
-
-void TestReadability::initTestCase()
-{
-    allowListConnectionWarning();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-}
-
-void TestReadability::textReadsInEveryPalette_data()
-{
-    columns<QString, QString, bool, bool>("kind", "state", "dark", "darkStates");
-    for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox", "list", "table"})
-        for (const char *state : {"normal", "modified", "invalid", "disabled"}) {
-            QTest::addRow("%s %s default", kind, state) << kind << state << false << false;
-            QTest::addRow("%s %s dark", kind, state) << kind << state << true << false;
-            QTest::addRow("%s %s dark, dark states", kind, state) << kind << state << true << true;
-        }
-}
-
-// Text reaches 4.5:1 against the background the state paints, in any palette.
-void TestReadability::textReadsInEveryPalette()
-{
-    auto [kind, state, dark, darkStates] =
-        fetch<QString, QString, bool, bool>("kind", "state", "dark", "darkStates");
-    QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
-    setStateColours(darkStates ? StateColours::Dark : StateColours::Standard);
-    Bound bound(kind, state);
-    setStateColours(StateColours::Standard);
-    QVERIFY(QTest::qWaitForWindowExposed(&bound.form));
-    const QImage image = bound.widget()->grab().toImage();
-    const double ratio = textContrast(image, bound.textArea());
-    qDebug("contrast %.2f", ratio); // for the record of the lowest per palette and state
-    QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("contrast %1").arg(ratio)));
-}
-
-void TestReadability::stateToldBeyondColour_data()
-{
-    columns<QString, QString, QString>("kind", "state", "words");
-    for (const char *kind :
-         {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "radiobutton"})
-        QTest::addRow("%s modified", kind) << kind << "modified"
-                                           << "Zmieniona";
-    for (const char *kind : {"lineedit", "spinbox", "doublespinbox", "combobox"})
-        QTest::addRow("%s invalid", kind) << kind << "invalid"
-                                          << "Nieprawidłowa";
-    // The editors say it of the parameter, and each element of itself.
-    row("list modified", "list", "modified", "Zmieniona\tZmodyfikowany element");
-    row("list invalid", "list", "invalid", "Nieprawidłowa\tNieprawidłowy element");
-    row("table modified", "table", "modified", "Zmieniona\tZmodyfikowany element");
-    row("table invalid", "table", "invalid", "Nieprawidłowa\tNieprawidłowy element");
-}
-
-// A modified or invalid control says so in its tool tip (after the host's own text) and
-// its accessible description, and shows a cue that tells the state in greyscale too: the
-// state's rendering differs from the normal one by at least 3:1 somewhere.
-void TestReadability::stateToldBeyondColour()
-{
-    auto [kind, state, words] = fetch<QString, QString, QString>("kind", "state", "words");
-    Bound normal(kind, QStringLiteral("normal"));
-    Bound marked(kind, state);
-    QVERIFY(QTest::qWaitForWindowExposed(&marked.form));
-    const QString tip = marked.widget()->toolTip();
-    QVERIFY2(tip.startsWith(QStringLiteral("Pojemność zbiornika\n")), qPrintable(tip));
-    QVERIFY2(tip.section(QLatin1Char('\n'), 1).startsWith(words.section(QLatin1Char('\t'), 0, 0)),
-             qPrintable(tip));
-    if (auto *items = marked.view())
-        QCOMPARE(items->model()->index(0, 0).data(Qt::AccessibleDescriptionRole).toString(),
-                 words.section(QLatin1Char('\t'), 1));
-    QCOMPARE(normal.widget()->toolTip(), QStringLiteral("Pojemność zbiornika"));
-    QCOMPARE(marked.widget()->accessibleDescription(), tip);
-
-    const QImage plain =
-        normal.widget()->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
-    const QImage cued =
-        marked.widget()->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
-    double most = 1;
-    for (int y = 0; y < qMin(plain.height(), cued.height()); ++y)
-        for (int x = 0; x < qMin(plain.width(), cued.width()); ++x)
-            most = qMax(most, contrast(grey(plain.pixel(x, y)), grey(cued.pixel(x, y))));
-    QVERIFY2(most >= 3, qPrintable(QStringLiteral("greyscale difference %1").arg(most)));
-}
-
-void TestReadability::accessibleNameIsTheLabel_data()
-{
-    columns<QString, QString>("kind", "name");
-    for (const char *kind :
-         {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "list", "table"})
-        row(kind, kind, "Pojemność");
-    row("radiobutton", "radiobutton", "Pojemność: Ręcznie");
-}
-
-// A screen reader names every kind after its label; a radio button adds its own choice.
-void TestReadability::accessibleNameIsTheLabel()
-{
-    auto [kind, name] = fetch<QString, QString>("kind", "name");
-    AnyControl control = makeAnyControl(kind);
-    if (auto *radio = qobject_cast<CfgRadioButton *>(control.widget.get()))
-        radio->setText(QStringLiteral("Ręcznie"));
-    TestHost host;
-    addEditableRecord(host, kind, ref).minVersions[0] = 0;
-    QLabel label(QStringLiteral("&Pojemność:"));
-    control.setReference(&host, ref, &label, {});
-    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(control.widget.get());
-    QVERIFY(face);
-    QCOMPARE(face->text(QAccessible::Name), name);
-}
-
-// The description follows every change of state (the toolkit announces each change of a
-// description to assistive technology; the offscreen test platform has none to observe).
-void TestReadability::descriptionFollowsState()
-{
-    Bound bound(QStringLiteral("spinbox"), QStringLiteral("normal"));
-    QAccessibleInterface *face = QAccessible::queryAccessibleInterface(bound.widget());
-    QCOMPARE(face->text(QAccessible::Description), QStringLiteral("Pojemność zbiornika"));
-    bound.host.invalid.insert(ref);
-    bound.host.records[ref].value = 120u; // as the host holds it
-    bound.control.updateControl(0);
-    QCOMPARE(face->text(QAccessible::Description),
-             QStringLiteral("Pojemność zbiornika\nNieprawidłowa: poza zakresem 0–100"));
-    bound.host.invalid.clear();
-    bound.control.updateControl(0);
-    QCOMPARE(face->text(QAccessible::Description), QStringLiteral("Pojemność zbiornika"));
-}
 
 QTEST_MAIN(TestReadability)
 #include "tst_readability.moc"

@@ -33,6 +33,7 @@ QByteArray packedFile(bool plainPages = false)
         fw.addDecodedFirmware(payload);
         fw.saveEncodedFile(file, QString());
     }
+
     return file;
 }
 
@@ -66,69 +67,67 @@ class TestFwTool : public TestCase
     Q_OBJECT
 
 private slots:
-    void damagedFile_data();
-    void damagedFile();
-    void worstFile();
-};
+    void damagedFile_data()
+    {
+        // failing: what the summary's verdict names
+        columns<QByteArray, int, int, QString>("file", "expectedHw1", "status", "failing");
 
-void TestFwTool::damagedFile_data()
-{
-    // failing: what the summary's verdict names
-    columns<QByteArray, int, int, QString>("file", "expectedHw1", "status", "failing");
-
-    row("sound", packedFile(), -1, 0, QString());
-    row("sound, its hardware", packedFile(), 0x1234, 0, QString());
-    row("sound, plain pages", packedFile(true), -1, 0, QString());
-    row("other hardware", packedFile(), 0x99, 15, QString());
-    row("name block", damaged(image + 20), -1, 6, "the name block");
-    row("size block", damaged(image + 100), -1, 6, "the size block");
-    row("page 2", damaged(pages + record + 5), -1, 6, "page 2");
-    row("page 3's label", damaged(pages + 2 * record + 2048 + 4), -1, 6, "page 3");
-    row("trailer", damaged(pages + 3 * record + 1), -1, 6, "the trailer");
-    QByteArray header = packedFile();
-    header[5] = char(header[5] ^ 1);
-    row("header", header, -1, 14, "the header");
-    row("cut short", packedFile().left(2000), -1, 13, "the header");
-    row("no firmware", QByteArray(40, 'x'), -1, 11, "the header");
-}
-
-void TestFwTool::damagedFile()
-{
-    auto [file, expectedHw1, status, failing] =
-        fetch<QByteArray, int, int, QString>("file", "expectedHw1", "status", "failing");
-
-    const FileReport report(file);
-    const FwTool::Verdict verdict = FwTool::verdict(QStringLiteral("x.fw"), report, expectedHw1);
-    QCOMPARE(verdict.status, status);
-    QVERIFY2(verdict.text.startsWith(QLatin1String("x.fw: ")), qPrintable(verdict.text));
-    QCOMPARE(report.allHold(), failing.isEmpty());
-    if (!report.headerRead)
-        return;
-    const QString summary = FwTool::summary(QStringLiteral("x.fw"), report);
-    const QString verdictLine = summary.section(QLatin1Char('\n'), -2, -2);
-    if (failing.isEmpty()) {
-        QVERIFY2(verdictLine.endsWith(QLatin1String("every checksum holds")), qPrintable(summary));
-        QVERIFY(summary.contains(QLatin1String("pages 3 of 3 hold")));
-    } else {
-        QVERIFY2(verdictLine.contains(failing) &&
-                     !summary.contains(QLatin1String("every checksum")),
-                 qPrintable(summary));
-        if (status == FwTool::NotVerified)
-            QVERIFY2(verdict.text.contains(failing), qPrintable(verdict.text));
+        row("sound", packedFile(), -1, 0, QString());
+        row("sound, its hardware", packedFile(), 0x1234, 0, QString());
+        row("sound, plain pages", packedFile(true), -1, 0, QString());
+        row("other hardware", packedFile(), 0x99, 15, QString());
+        row("name block", damaged(image + 20), -1, 6, "the name block");
+        row("size block", damaged(image + 100), -1, 6, "the size block");
+        row("page 2", damaged(pages + record + 5), -1, 6, "page 2");
+        row("page 3's label", damaged(pages + 2 * record + 2048 + 4), -1, 6, "page 3");
+        row("trailer", damaged(pages + 3 * record + 1), -1, 6, "the trailer");
+        QByteArray header = packedFile();
+        header[5] = char(header[5] ^ 1);
+        row("header", header, -1, 14, "the header");
+        row("cut short", packedFile().left(2000), -1, 13, "the header");
+        row("no firmware", QByteArray(40, 'x'), -1, 11, "the header");
     }
-}
 
-void TestFwTool::worstFile()
-{
-    const int sound = FwTool::Success;
-    const int other = FwTool::FileCode + 5;
-    const int refused = FwTool::FileCode + 2;
-    QCOMPARE(FwTool::worse(sound, other), other);
-    QCOMPARE(FwTool::worse(other, FwTool::NotVerified), int(FwTool::NotVerified));
-    QCOMPARE(FwTool::worse(refused, FwTool::NotVerified), refused);
-    QCOMPARE(FwTool::worse(FwTool::Unreadable, refused), int(FwTool::Unreadable));
-    QCOMPARE(FwTool::worse(FwTool::FileCode + 1, FwTool::FileCode + 4), FwTool::FileCode + 4);
-}
+    void damagedFile()
+    {
+        auto [file, expectedHw1, status, failing] =
+            fetch<QByteArray, int, int, QString>("file", "expectedHw1", "status", "failing");
+
+        const FileReport report(file);
+        const FwTool::Verdict verdict =
+            FwTool::verdict(QStringLiteral("x.fw"), report, expectedHw1);
+        QCOMPARE(verdict.status, status);
+        QVERIFY2(verdict.text.startsWith(QLatin1String("x.fw: ")), qPrintable(verdict.text));
+        QCOMPARE(report.allHold(), failing.isEmpty());
+        if (!report.headerRead)
+            return;
+        const QString summary = FwTool::summary(QStringLiteral("x.fw"), report);
+        const QString verdictLine = summary.section(QLatin1Char('\n'), -2, -2);
+        if (failing.isEmpty()) {
+            QVERIFY2(verdictLine.endsWith(QLatin1String("every checksum holds")),
+                     qPrintable(summary));
+            QVERIFY(summary.contains(QLatin1String("pages 3 of 3 hold")));
+        } else {
+            QVERIFY2(verdictLine.contains(failing) &&
+                         !summary.contains(QLatin1String("every checksum")),
+                     qPrintable(summary));
+            if (status == FwTool::NotVerified)
+                QVERIFY2(verdict.text.contains(failing), qPrintable(verdict.text));
+        }
+    }
+
+    void worstFile()
+    {
+        const int sound = FwTool::Success;
+        const int other = FwTool::FileCode + 5;
+        const int refused = FwTool::FileCode + 2;
+        QCOMPARE(FwTool::worse(sound, other), other);
+        QCOMPARE(FwTool::worse(other, FwTool::NotVerified), int(FwTool::NotVerified));
+        QCOMPARE(FwTool::worse(refused, FwTool::NotVerified), refused);
+        QCOMPARE(FwTool::worse(FwTool::Unreadable, refused), int(FwTool::Unreadable));
+        QCOMPARE(FwTool::worse(FwTool::FileCode + 1, FwTool::FileCode + 4), FwTool::FileCode + 4);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestFwTool)
 #include "tst_fwtool.moc"

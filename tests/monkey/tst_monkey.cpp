@@ -5,17 +5,17 @@
 // mouse edits, collection adds, removes and in-place edits, table rebuilds, widgets the host
 // deletes). Seeded and bounded by an operation count, so a run replays exactly:
 //   TELECFG_MONKEY_SEED=<number or "random">  TELECFG_MONKEY_OPS=<count>
+// Every kind is driven alike, through the protocol and the kind's own operations.
+#include "telecfg/collections/cfglisteditor.h"
 #include "telecfg/collections/cfglistwidget.h"
-#include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
-#include "telecfg/controls/cfgcombobox.h"
-#include "telecfg/controls/cfglineedit.h"
-#include "telecfg/controls/cfgradiobutton.h"
 #include "telecfg/dialogs/gui.h"
 #include "tests/support/anycontrol.h"
 #include "tests/support/modalcatcher.h"
 #include "tests/support/testcase.h"
+#include "tests/support/testhost.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QEventLoop>
 #include <QLabel>
@@ -24,9 +24,15 @@
 #include <QTimer>
 #include <QtTest>
 #include <algorithm>
+#include <array>
+#include <csignal>
 #include <cstdio>
+#include <memory>
 #include <random>
 #include <vector>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/common_interface_defs.h>
+#endif
 
 namespace {
 std::mt19937 rng;
@@ -194,11 +200,10 @@ MainConfigObject randomRecord(int home)
 }
 
 // A parameter table whose every answer is drawn from the run's generator.
-class RandomHost : public MainConfigIFace
+// The test host's records, with every answer but the value drawn from the generator.
+class RandomHost : public TestHost
 {
 public:
-    MainConfigObject &object(int ref) override { return records[ref]; }
-    QVariant value(int ref) override { return records[ref].value; }
     void setValue(int ref, QVariant v) override
     {
         if (chance(85))
@@ -206,6 +211,7 @@ public:
         if (rebuildOnWrite)
             rebuild();
     }
+
     bool isValid(int) override { return chance(80); }
     bool isModified(int) override { return chance(30); }
     bool matchesStored(int, QVariant) override { return chance(50); }
@@ -217,16 +223,6 @@ public:
     quint32 uintOfName(QString, QList<NamedUInt>) override { return randomNumber(); }
     bool isStoredItem(int, QVariant) override { return chance(50); }
 
-    // Every record replaced by a copy: references into the old ones point at freed memory.
-    void rebuild()
-    {
-        QMap<int, MainConfigObject> fresh;
-        for (auto it = records.cbegin(); it != records.cend(); ++it)
-            fresh.insert(it.key(), MainConfigObject(it.value()));
-        records.swap(fresh);
-    }
-
-    QMap<int, MainConfigObject> records;
     bool rebuildOnWrite = false;
 
 private:
@@ -240,14 +236,37 @@ private:
 };
 
 const int firstRef = 10;
-const int refCount = 9; // one home record per kind of control
+
+// The latest operations (number and control kind), told when the run fails, crashes or a
+// sanitizer stops it.
+struct Done
+{
+    int op;
+    const char *kind;
+};
+Done done[20];
+unsigned doneCount = 0;
+quint32 runSeed = 0;
+void tellLastOperations()
+{
+    std::fprintf(stderr,
+                 "monkey: seed %u; the last operations (number on kind), oldest first:", runSeed);
+    for (unsigned i = doneCount > 20 ? doneCount - 20 : 0; i < doneCount; ++i)
+        std::fprintf(stderr, " %d on %s,", done[i % 20].op, done[i % 20].kind);
+    std::fprintf(stderr, "\n");
+}
+void tellAndDie(int signal)
+{
+    tellLastOperations();
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
 
 // One control on the form with the label and related widget the host gave it.
 struct Placed
 {
     QString kind;
-    AnyControl control;
-    QPointer<QWidget> self;
+    std::unique_ptr<AnyControl> control;
     QPointer<QLabel> label, related;
     int ref = 0; // bound to
 };
@@ -263,259 +282,230 @@ private slots:
         allowListConnectionWarning();
         registerCollectionTypes();
     }
-    void run();
-    void cleanup() { setGUILicenseLevel(0); }
+
+    void run()
+    {
+        const QByteArray seedText = qgetenv("TELECFG_MONKEY_SEED");
+        const quint32 seed = seedText == "random" ? std::random_device()()
+                             : seedText.isEmpty() ? 20261124u
+                                                  : seedText.toUInt();
+        bool counted = false;
+        int ops = qEnvironmentVariableIntValue("TELECFG_MONKEY_OPS", &counted);
+        if (!counted)
+            ops = 3000;
+        std::printf("monkey: seed %u, %d operations; replay with TELECFG_MONKEY_SEED=%u\n", seed,
+                    ops, seed);
+        std::fflush(stdout);
+        rng.seed(seed);
+        runSeed = seed;
+        for (int signal : {SIGABRT, SIGSEGV, SIGFPE, SIGBUS})
+            std::signal(signal, tellAndDie);
+#ifdef __SANITIZE_ADDRESS__
+        __sanitizer_set_death_callback(tellLastOperations);
+#endif
+
+        ModalCatcher catcher; // refusals are answered with OK
+        for (const QString &kind : anyControlKinds())
+            placed.push_back(Placed{kind, {}, {}, {}, 0});
+        host.records[2].value = 10u;
+        for (int ref = firstRef; ref < firstRef + int(placed.size()); ++ref)
+            host.records[ref] = randomRecord(ref - firstRef);
+        newForm();
+
+        // The operations run from the event loop, as a host's code does: an object deleted later
+        // then goes when the host's code returns, not inside a message box the library opens.
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, [this, &loop, ops] {
+            // Weights of the operations above, in order.
+            static const int weights[] = {8, 14, 12, 3, 14, 8, 10, 6, 3, 3, 2, 16};
+            std::discrete_distribution<int> choose(std::begin(weights), std::end(weights));
+            for (int i = 0; i < ops && !QTest::currentTestFailed(); ++i) {
+                operate(choose(rng));
+                if (QWidget *popup = QApplication::activePopupWidget())
+                    popup->close();
+                // What the host's event loop would deliver before the next operation (timers left
+                // out, so a run replays exactly).
+                QCoreApplication::sendPostedEvents();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            }
+            loop.quit();
+        });
+        loop.exec();
+        if (QTest::currentTestFailed())
+            tellLastOperations();
+        delete form.data();
+        placed.clear();
+    }
+
+    void cleanup()
+    {
+        setGUILicenseLevel(0);
+    }
 
 private:
-    void operate(int op);
-    void newForm();
-    void place(Placed &slot);
-    void bind(Placed &slot);
-    void collectionOp(Placed &slot);
-    void editInPlace(QAbstractItemView *view, const QModelIndex &index);
-    int anyRef() const { return firstRef + pick(refCount); }
+    void operate(int op)
+    {
+        Placed &slot = placed[pick(int(placed.size()))];
+        AnyControl &control = *slot.control;
+        QWidget *self = control.widget;
+        done[doneCount++ % 20] = {op, control.kind->metaObject->className()};
+        switch (op) {
+        case 0:
+            bind(slot);
+            break;
+        case 1: {
+            static const int ids[] = {0, 0, 1, 2, 3, 7};
+            control.updateControl(oneOf(ids));
+            break;
+        }
+        case 2: {
+            const int which = pick(4);
+            const bool on = chance(which < 2 ? 80 : 20); // mostly open, shown, no error
+            const std::array<void (AnyControl::*)(bool), 4> gates{
+                &AnyControl::setEnabled, &AnyControl::updateEnableState, &AnyControl::setHidden,
+                &AnyControl::setError};
+            (control.*gates[which])(on);
+            break;
+        }
+        case 3:
+            setGUILicenseLevel(pick(4));
+            break;
+        case 4: {
+            static const Qt::Key keys[] = {
+                Qt::Key_0,      Qt::Key_1,     Qt::Key_5,         Qt::Key_9,      Qt::Key_Minus,
+                Qt::Key_Period, Qt::Key_Comma, Qt::Key_Up,        Qt::Key_Down,   Qt::Key_PageUp,
+                Qt::Key_End,    Qt::Key_Home,  Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Space,
+                Qt::Key_A,      Qt::Key_F2,    Qt::Key_Return,    Qt::Key_Escape};
+            QTest::keyClick(self, oneOf(keys));
+            break;
+        }
+        case 5: {
+            const QPoint at(pick(qMax(1, self->width())), pick(qMax(1, self->height())));
+            auto *view = qobject_cast<QAbstractItemView *>(self);
+            QWidget *target = view ? view->viewport() : self;
+            if (chance(30))
+                QTest::mouseDClick(target, Qt::LeftButton, {}, at);
+            else
+                QTest::mouseClick(target, Qt::LeftButton, {}, at);
+            break;
+        }
+        case 6:
+            if (auto *editor = qobject_cast<CfgListEditor *>(self))
+                itemViewOp(editor->list());
+            else if (auto *view = qobject_cast<QAbstractItemView *>(self))
+                itemViewOp(view);
+            break;
+        case 7: {
+            const int ref = chance(10) ? 2 : anyRef();
+            host.records[ref] = randomRecord(ref - firstRef);
+            if (ref == 2 && chance(70))
+                host.records[2].value = uint(pick(25));
+            break;
+        }
+        case 8:
+            host.rebuild();
+            host.rebuildOnWrite = chance(30);
+            break;
+        case 9:
+            delete (chance(50) ? slot.label : slot.related).data();
+            break;
+        case 10:
+            if (chance(5)) {
+                form->deleteLater();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                newForm();
+            } else {
+                self->deleteLater();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                place(slot);
+                bind(slot);
+            }
+            break;
+        default: {
+            // The kind's own operations, the user edit among them, with a value that fits its
+            // bound record or any other.
+            const QVariant value =
+                chance(50)   ? QVariant(uint(pick(12)))
+                : chance(50) ? QVariant(QStringList{QString::number(pick(9)), randomText()})
+                             : randomValue();
+            control.operate(pick(control.operationCount()), chance(80) ? slot.ref : anyRef(),
+                            value);
+        }
+        }
+    }
+
+    // A fresh form with every kind placed and bound on it.
+    void newForm()
+    {
+        form = new QWidget;
+        form->resize(200, 40 * int(placed.size()));
+        form->show();
+        for (Placed &slot : placed) {
+            place(slot);
+            bind(slot);
+        }
+    }
+
+    void place(Placed &slot)
+    {
+        slot.control = std::make_unique<AnyControl>(slot.kind, form);
+        slot.control->widget->setGeometry(10, 10 + 40 * int(&slot - placed.data()), 160, 36);
+        slot.control->widget->show();
+    }
+
+    void bind(Placed &slot)
+    {
+        const int home = firstRef + int(&slot - placed.data());
+        slot.ref = chance(5) ? 2 : chance(70) ? home : anyRef();
+        for (QPointer<QLabel> *widget : {&slot.label, &slot.related})
+            if (!*widget && chance(50))
+                *widget = new QLabel(form);
+        QList<QWidget *> related{slot.related};
+        if (chance(20))
+            related.append(nullptr);
+        slot.control->setReference(chance(5) ? nullptr : &host, slot.ref,
+                                   chance(20) ? nullptr : slot.label.data(), related);
+    }
+
+    // Selects items at random, or edits one in place: an editor a key or a double click left open
+    // is used as it is; otherwise one opens where the user can double-click into (an enabled,
+    // editable item of an enabled view).
+    void itemViewOp(QAbstractItemView *view)
+    {
+        const QAbstractItemModel *model = view->model();
+        if (chance(40)) {
+            for (int row = 0; row < model->rowCount(); ++row)
+                for (int column = 0; column < model->columnCount(); ++column)
+                    view->selectionModel()->select(model->index(row, column),
+                                                   chance(40) ? QItemSelectionModel::Select
+                                                              : QItemSelectionModel::Deselect);
+            return;
+        }
+        auto *editor = view->viewport()->findChild<QLineEdit *>();
+        const QModelIndex index =
+            model->index(pick(qMax(1, model->rowCount())), pick(qMax(1, model->columnCount())));
+        const Qt::ItemFlags editable = Qt::ItemIsEditable | Qt::ItemIsEnabled;
+        if (!editor && index.isValid() && (index.flags() & editable) == editable &&
+            view->isEnabled()) {
+            view->setCurrentIndex(index);
+            view->edit(index);
+            editor = view->viewport()->findChild<QLineEdit *>();
+        }
+        if (!editor)
+            return;
+        editor->setText(chance(30) ? QString::number(pick(10)) : randomText());
+        QTest::keyClick(editor, chance(85) ? Qt::Key_Return : Qt::Key_Escape);
+    }
+
+    int anyRef() const
+    {
+        return firstRef + pick(int(placed.size()));
+    }
 
     RandomHost host;
     QPointer<QWidget> form;
     std::vector<Placed> placed;
 };
-
-// A fresh form with every kind placed and bound on it.
-void TestMonkey::newForm()
-{
-    form = new QWidget;
-    form->resize(200, 360);
-    form->show();
-    for (Placed &slot : placed) {
-        place(slot);
-        bind(slot);
-    }
-}
-
-void TestMonkey::place(Placed &slot)
-{
-    slot.control = makeAnyControl(slot.kind);
-    slot.self = slot.control.widget.get();
-    slot.control.widget.release()->setParent(form); // the form owns it
-    slot.self->setGeometry(10, 10 + 40 * int(&slot - placed.data()), 160, 36);
-    slot.self->show();
-}
-
-void TestMonkey::bind(Placed &slot)
-{
-    const int home = firstRef + int(&slot - placed.data());
-    slot.ref = chance(5) ? 2 : chance(70) ? home : anyRef();
-    for (QPointer<QLabel> *widget : {&slot.label, &slot.related})
-        if (!*widget && chance(50))
-            *widget = new QLabel(form);
-    QList<QWidget *> related{slot.related};
-    if (chance(20))
-        related.append(nullptr);
-    slot.control.setReference(chance(5) ? nullptr : &host, slot.ref,
-                              chance(20) ? nullptr : slot.label.data(), related);
-}
-
-void TestMonkey::editInPlace(QAbstractItemView *view, const QModelIndex &index)
-{
-    // An editor a key or a double click left open is used as it is; otherwise one opens
-    // where the user can double-click into: an enabled, editable item of an enabled view.
-    auto *editor = view->viewport()->findChild<QLineEdit *>();
-    const Qt::ItemFlags editable = Qt::ItemIsEditable | Qt::ItemIsEnabled;
-    if (!editor && index.isValid() && (index.flags() & editable) == editable && view->isEnabled()) {
-        view->setCurrentIndex(index);
-        view->edit(index);
-        editor = view->viewport()->findChild<QLineEdit *>();
-    }
-    if (!editor)
-        return;
-    editor->setText(chance(30) ? QString::number(pick(10)) : randomText());
-    QTest::keyClick(editor, chance(85) ? Qt::Key_Return : Qt::Key_Escape);
-}
-
-void TestMonkey::collectionOp(Placed &slot)
-{
-    const int ref = chance(80) ? slot.ref : anyRef();
-    if (auto *list = qobject_cast<CfgListWidget *>(slot.self)) {
-        switch (pick(5)) {
-        case 0:
-            list->addValue(chance(50) ? QVariant(uint(pick(12))) : randomValue(), ref);
-            break;
-        case 1:
-            for (int row = 0; row < list->count(); ++row)
-                list->item(row)->setSelected(chance(40));
-            list->remove(ref);
-            break;
-        case 2:
-            list->removeAll(ref);
-            break;
-        case 3:
-            if (list->count() > 0)
-                editInPlace(list, list->model()->index(pick(list->count()), 0));
-            break;
-        default:
-            list->inputMode(pick(3));
-        }
-    } else if (auto *table = qobject_cast<CfgTableWidget *>(slot.self)) {
-        switch (pick(4)) {
-        case 0:
-            table->addValue(chance(70)
-                                ? QVariant(QStringList{QString::number(pick(9)), randomText()})
-                                : randomValue(),
-                            ref);
-            break;
-        case 1:
-            table->addValue(QString::number(pick(9)), ref);
-            break;
-        case 2:
-            for (int row = 0; row < table->rowCount(); ++row)
-                for (int column = 0; column < table->columnCount(); ++column)
-                    if (QTableWidgetItem *cell = table->item(row, column))
-                        cell->setSelected(chance(40));
-            table->remove(ref);
-            break;
-        default:
-            if (table->rowCount() > 0 && table->columnCount() > 0)
-                editInPlace(table, table->model()->index(pick(table->rowCount()),
-                                                         pick(table->columnCount())));
-        }
-    }
-}
-
-void TestMonkey::operate(int op)
-{
-    Placed &slot = placed[pick(int(placed.size()))];
-    switch (op) {
-    case 0:
-        bind(slot);
-        break;
-    case 1: {
-        static const int ids[] = {0, 0, 1, 2, 3, 7};
-        slot.control.updateControl(oneOf(ids));
-        break;
-    }
-    case 2: {
-        const int which = pick(4);
-        const bool on = chance(which < 2 ? 80 : 20); // mostly open, shown, no error
-        const std::function<void(bool)> gates[] = {slot.control.setEnabled,
-                                                   slot.control.updateEnableState,
-                                                   slot.control.setHidden, slot.control.setError};
-        gates[which](on);
-        break;
-    }
-    case 3:
-        setGUILicenseLevel(pick(4));
-        break;
-    case 4: {
-        static const Qt::Key keys[] = {
-            Qt::Key_0,      Qt::Key_1,     Qt::Key_5,         Qt::Key_9,      Qt::Key_Minus,
-            Qt::Key_Period, Qt::Key_Comma, Qt::Key_Up,        Qt::Key_Down,   Qt::Key_PageUp,
-            Qt::Key_End,    Qt::Key_Home,  Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Space,
-            Qt::Key_A,      Qt::Key_F2,    Qt::Key_Return,    Qt::Key_Escape};
-        QTest::keyClick(slot.self, oneOf(keys));
-        break;
-    }
-    case 5: {
-        const QPoint at(pick(qMax(1, slot.self->width())), pick(qMax(1, slot.self->height())));
-        auto *view = qobject_cast<QAbstractItemView *>(slot.self);
-        QWidget *target = view ? view->viewport() : slot.self.data();
-        if (chance(30))
-            QTest::mouseDClick(target, Qt::LeftButton, {}, at);
-        else
-            QTest::mouseClick(target, Qt::LeftButton, {}, at);
-        break;
-    }
-    case 6:
-        collectionOp(placed[6 + pick(2)]);
-        break;
-    case 7: {
-        const int ref = chance(10) ? 2 : anyRef();
-        host.records[ref] = randomRecord(ref - firstRef);
-        if (ref == 2 && chance(70))
-            host.records[2].value = uint(pick(25));
-        break;
-    }
-    case 8:
-        host.rebuild();
-        host.rebuildOnWrite = chance(30);
-        break;
-    case 9:
-        delete (chance(50) ? slot.label : slot.related).data();
-        break;
-    case 10:
-        if (chance(5)) {
-            form->deleteLater();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            newForm();
-        } else {
-            slot.self->deleteLater();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            place(slot);
-            bind(slot);
-        }
-        break;
-    default:
-        // The kinds' own operations.
-        if (auto *combo = qobject_cast<CfgComboBox *>(slot.self)) {
-            combo->setSkip(chance(20));
-            combo->updateSelection(anyRef());
-        } else if (auto *edit = qobject_cast<CfgLineEdit *>(slot.self)) {
-            if (chance(50))
-                edit->displayText(randomText());
-            else
-                edit->setText(randomText());
-        } else if (auto *radio = qobject_cast<CfgRadioButton *>(slot.self)) {
-            radio->setSelected(pick(6));
-        } else if (slot.control.userEdit) {
-            slot.control.userEdit();
-        }
-    }
-}
-
-void TestMonkey::run()
-{
-    const QByteArray seedText = qgetenv("TELECFG_MONKEY_SEED");
-    const quint32 seed = seedText == "random" ? std::random_device()()
-                         : seedText.isEmpty() ? 20261124u
-                                              : seedText.toUInt();
-    bool counted = false;
-    int ops = qEnvironmentVariableIntValue("TELECFG_MONKEY_OPS", &counted);
-    if (!counted)
-        ops = 3000;
-    std::printf("monkey: seed %u, %d operations; replay with TELECFG_MONKEY_SEED=%u\n", seed, ops,
-                seed);
-    std::fflush(stdout);
-    rng.seed(seed);
-
-    host.records[2].value = 10u;
-    for (int ref = firstRef; ref < firstRef + refCount; ++ref)
-        host.records[ref] = randomRecord(ref - firstRef);
-    ModalCatcher catcher; // refusals are answered with OK
-    for (const QString &kind : anyControlKinds())
-        placed.push_back(Placed{kind, {}, {}, {}, {}, 0});
-    newForm();
-
-    // The operations run from the event loop, as a host's code does: an object deleted later
-    // then goes when the host's code returns, not inside a message box the library opens.
-    QEventLoop loop;
-    QTimer::singleShot(0, &loop, [this, &loop, ops] {
-        // Weights of the operations above, in order.
-        static const int weights[] = {8, 14, 12, 3, 14, 8, 14, 6, 3, 3, 2, 6};
-        std::discrete_distribution<int> choose(std::begin(weights), std::end(weights));
-        for (int i = 0; i < ops && !QTest::currentTestFailed(); ++i) {
-            operate(choose(rng));
-            if (QWidget *popup = QApplication::activePopupWidget())
-                popup->close();
-            // What the host's event loop would deliver before the next operation (timers left
-            // out, so a run replays exactly).
-            QCoreApplication::sendPostedEvents();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-        loop.quit();
-    });
-    loop.exec();
-    delete form.data();
-    placed.clear();
-}
 
 QTEST_MAIN(TestMonkey)
 #include "tst_monkey.moc"

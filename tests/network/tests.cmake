@@ -27,5 +27,5 @@ foreach(bad ${telecfg_bad_country_data})
 endforeach()
 
 # The compiled table is checked row by row against the data it came from.
-target_compile_definitions(tst_countrytable PRIVATE
+target_compile_definitions(tst_network PRIVATE
     TELECFG_COUNTRY_DATA="${telecfg_country_data}")

@@ -18,110 +18,138 @@
 
 #include <QTest>
 
-QStringList anyControlKinds()
-{
-    return valueControlKinds() + QStringList{QStringLiteral("list"), QStringLiteral("table"),
-                                             QStringLiteral("listeditor")};
-}
-
-QStringList valueControlKinds()
-{
-    return {QStringLiteral("checkbox"),      QStringLiteral("combobox"),
-            QStringLiteral("lineedit"),      QStringLiteral("spinbox"),
-            QStringLiteral("doublespinbox"), QStringLiteral("radiobutton")};
-}
-
-AnyControl makeAnyControl(std::unique_ptr<QWidget> control)
-{
-    const BoundKind *kind = BoundKind::find(control.get());
-    if (!kind)
-        qFatal("%s is no bound control", control->metaObject()->className());
-    QWidget *widget = control.get();
-    AnyControl any;
-    any.widget = std::move(control);
-    any.setReference = [widget, kind](MainConfigIFace *iface, int ref, QWidget *label,
-                                      QList<QWidget *> related) {
-        kind->setReference(widget, iface, ref, label, related);
-    };
-    any.updateControl = [widget, kind](int id) { kind->updateControl(widget, id); };
-    any.setEnabled = [widget, kind](bool on) { kind->setEnabled(widget, on); };
-    any.updateEnableState = [widget, kind](bool on) { kind->updateEnableState(widget, on); };
-    any.setHidden = [widget, kind](bool hidden) { kind->setHidden(widget, hidden); };
-    any.setError = [widget, kind](bool error) { kind->setError(widget, error); };
-    any.isError = [widget, kind]() { return kind->isError(widget); };
-    return any;
-}
-
 namespace {
-template <class Control>
-AnyControl makeEditable(const char *signal, std::function<void(Control *)> edit)
+// What the protocol does not reach: the user edit, its signal and the kind's own operations.
+using Operation = void (*)(QWidget *control, int ref, const QVariant &value);
+struct Kind
 {
-    auto *control = new Control;
-    AnyControl any = makeAnyControl(std::unique_ptr<QWidget>(control));
-    any.userEdit = [control, edit] { edit(control); };
-    any.editSignal = signal;
-    return any;
+    const char *name;
+    QWidget *(*create)();
+    const char *editSignal;
+    QVector<Operation> own; // the user edit first
+};
+template <class T> T *as(QWidget *control)
+{
+    return static_cast<T *>(control);
+}
+template <class T> QWidget *make()
+{
+    return new T;
 }
 
-// The collection editors add an element to the parameter they are bound to, which they do
-// not tell: the adapter remembers it from the binding.
-template <class Control>
-AnyControl makeCollection(const char *signal, std::function<void(Control *, int)> add)
+const Kind kinds[] = {
+    {"checkbox",
+     make<CfgCheckBox>,
+     SIGNAL(stateChanged(int)),
+     {[](QWidget *w, int, const QVariant &) { as<CfgCheckBox>(w)->click(); }}},
+    {"combobox",
+     make<CfgComboBox>,
+     SIGNAL(currentIndexChanged(int)),
+     {[](QWidget *w, int, const QVariant &) {
+          auto *box = as<CfgComboBox>(w);
+          box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0);
+      },
+      [](QWidget *w, int, const QVariant &v) { as<CfgComboBox>(w)->setSkip(v.toBool()); },
+      [](QWidget *w, int ref, const QVariant &) { as<CfgComboBox>(w)->updateSelection(ref); }}},
+    {"lineedit",
+     make<CfgLineEdit>,
+     SIGNAL(textChanged(QString)),
+     {[](QWidget *w, int, const QVariant &) { QTest::keyClick(w, Qt::Key_1); },
+      [](QWidget *w, int, const QVariant &v) { as<CfgLineEdit>(w)->displayText(v.toString()); },
+      [](QWidget *w, int, const QVariant &v) { as<CfgLineEdit>(w)->setText(v.toString()); }}},
+    {"spinbox",
+     make<CfgSpinBox>,
+     SIGNAL(valueChanged(int)),
+     {[](QWidget *w, int, const QVariant &) { QTest::keyClick(w, Qt::Key_Up); }}},
+    {"doublespinbox",
+     make<CfgDoubleSpinBox>,
+     SIGNAL(valueChanged(double)),
+     {[](QWidget *w, int, const QVariant &) { QTest::keyClick(w, Qt::Key_Up); }}},
+    {"radiobutton",
+     make<CfgRadioButton>,
+     SIGNAL(pressed()),
+     {[](QWidget *w, int, const QVariant &) { as<CfgRadioButton>(w)->click(); },
+      [](QWidget *w, int, const QVariant &v) { as<CfgRadioButton>(w)->setSelected(v.toInt()); }}},
+    {"list",
+     make<CfgListWidget>,
+     SIGNAL(currentRowChanged(int)),
+     {[](QWidget *w, int ref, const QVariant &) {
+          auto *list = as<CfgListWidget>(w);
+          list->addValue(QVariant(uint(list->count() + 1)), ref);
+      },
+      [](QWidget *w, int ref, const QVariant &v) { as<CfgListWidget>(w)->addValue(v, ref); },
+      [](QWidget *w, int ref, const QVariant &) { as<CfgListWidget>(w)->remove(ref); },
+      [](QWidget *w, int ref, const QVariant &) { as<CfgListWidget>(w)->removeAll(ref); },
+      [](QWidget *w, int, const QVariant &v) { as<CfgListWidget>(w)->inputMode(v.toInt() % 3); }}},
+    {"table",
+     make<CfgTableWidget>,
+     SIGNAL(cellChanged(int, int)),
+     {[](QWidget *w, int ref, const QVariant &) {
+          auto *table = as<CfgTableWidget>(w);
+          const QString id = QString::number(table->rowCount() + 1);
+          table->addValue(QVariant(QStringList{id, id}), ref);
+      },
+      [](QWidget *w, int ref, const QVariant &v) { as<CfgTableWidget>(w)->addValue(v, ref); },
+      [](QWidget *w, int ref, const QVariant &) { as<CfgTableWidget>(w)->remove(ref); }}},
+    // The editor has no signal of its own: its list's signals are the list's.
+    {"listeditor",
+     make<CfgListEditor>,
+     nullptr,
+     {[](QWidget *w, int ref, const QVariant &) {
+          CfgListWidget *list = as<CfgListEditor>(w)->list();
+          list->addValue(QVariant(uint(list->count() + 1)), ref);
+      },
+      [](QWidget *w, int ref, const QVariant &v) {
+          as<CfgListEditor>(w)->list()->addValue(v, ref);
+      },
+      [](QWidget *w, int, const QVariant &) { as<CfgListEditor>(w)->addElement(); },
+      [](QWidget *w, int, const QVariant &) { as<CfgListEditor>(w)->removeSelected(); }}},
+};
+
+const Kind &kindNamed(const QString &name)
 {
-    AnyControl any = makeEditable<Control>(signal, {});
-    auto *control = static_cast<Control *>(any.widget.get());
-    auto ref = std::make_shared<int>(0);
-    any.setReference = [bind = any.setReference, ref](MainConfigIFace *iface, int bound,
-                                                      QWidget *label, QList<QWidget *> related) {
-        *ref = bound;
-        bind(iface, bound, label, related);
-    };
-    any.userEdit = [control, ref, add] { add(control, *ref); };
-    return any;
+    for (const Kind &kind : kinds)
+        if (name == QLatin1String(kind.name))
+            return kind;
+    qFatal("unknown control kind %s", qPrintable(name));
 }
 } // namespace
 
-AnyControl makeAnyControl(const QString &kind)
+QStringList anyControlKinds()
 {
-    if (kind == QLatin1String("checkbox"))
-        return makeEditable<CfgCheckBox>(SIGNAL(stateChanged(int)),
-                                         [](CfgCheckBox *box) { box->click(); });
-    if (kind == QLatin1String("combobox"))
-        return makeEditable<CfgComboBox>(SIGNAL(currentIndexChanged(int)), [](CfgComboBox *box) {
-            box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0);
-        });
-    if (kind == QLatin1String("lineedit"))
-        return makeEditable<CfgLineEdit>(SIGNAL(textChanged(QString)), [](CfgLineEdit *edit) {
-            QTest::keyClick(edit, Qt::Key_1);
-        });
-    if (kind == QLatin1String("spinbox"))
-        return makeEditable<CfgSpinBox>(SIGNAL(valueChanged(int)),
-                                        [](CfgSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
-    if (kind == QLatin1String("doublespinbox"))
-        return makeEditable<CfgDoubleSpinBox>(
-            SIGNAL(valueChanged(double)),
-            [](CfgDoubleSpinBox *box) { QTest::keyClick(box, Qt::Key_Up); });
-    if (kind == QLatin1String("radiobutton"))
-        return makeEditable<CfgRadioButton>(SIGNAL(pressed()),
-                                            [](CfgRadioButton *button) { button->click(); });
-    if (kind == QLatin1String("list"))
-        return makeCollection<CfgListWidget>(
-            SIGNAL(currentRowChanged(int)), [](CfgListWidget *list, int ref) {
-                list->addValue(QVariant(uint(list->count() + 1)), ref);
-            });
-    if (kind == QLatin1String("table"))
-        return makeCollection<CfgTableWidget>(
-            SIGNAL(cellChanged(int, int)), [](CfgTableWidget *table, int ref) {
-                const QString id = QString::number(table->rowCount() + 1);
-                table->addValue(QVariant(QStringList{id, id}), ref);
-            });
-    // The editor has no signal of its own: its list's signals are the list's.
-    if (kind == QLatin1String("listeditor"))
-        return makeCollection<CfgListEditor>(nullptr, [](CfgListEditor *editor, int ref) {
-            editor->list()->addValue(QVariant(uint(editor->list()->count() + 1)), ref);
-        });
-    qFatal("unknown control kind %s", qPrintable(kind));
-    return {};
+    QStringList names;
+    for (const Kind &kind : kinds)
+        names << QLatin1String(kind.name);
+    return names;
+}
+
+AnyControl::AnyControl(const QString &kindName, QWidget *parent)
+    : name(kindName), widget(kindNamed(kindName).create()), kind(BoundKind::find(widget))
+{
+    if (parent)
+        widget->setParent(parent);
+    else
+        owner.reset(widget.data(), [](QWidget *control) { delete control; });
+}
+
+void AnyControl::userEdit()
+{
+    operate(0, bound, QVariant());
+}
+
+const char *AnyControl::editSignal() const
+{
+    return kindNamed(name).editSignal;
+}
+
+int AnyControl::operationCount() const
+{
+    return kindNamed(name).own.size();
+}
+
+void AnyControl::operate(int index, int ref, const QVariant &value)
+{
+    kindNamed(name).own.at(index)(widget, ref, value);
 }
 
 MainConfigObject &addEditableRecord(TestHost &host, const QString &kind, int ref)
@@ -155,6 +183,7 @@ MainConfigObject &addEditableRecord(TestHost &host, const QString &kind, int ref
         object.columnListB = object.columnListA;
         object.value = QVariant::fromValue(ColumnVectors(2, QVector<QByteArray>(4)));
     }
+
     return object;
 }
 

@@ -2,42 +2,59 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "telecfg/config/mainconfig.h"
+#include "telecfg/controls/boundcontrol.h"
 
-#include <QWidget>
-#include <functional>
+#include <QPointer>
+#include <QStringList>
+#include <QVariant>
 #include <memory>
 
-// One bound control of any kind behind a common face, so a protocol test can run the
-// same table over every kind. Each kind calls its own (non-virtual) operations.
-struct AnyControl
+class TestHost;
+
+// One bound control of any kind behind a common face, so one test table runs over every
+// kind: the protocol through the kind's registered operations, plus a user edit and the
+// kind's own operations.
+class AnyControl
 {
-    std::unique_ptr<QWidget> widget;
-    std::function<void(MainConfigIFace *, int, QWidget *, QList<QWidget *>)> setReference;
-    std::function<void(int)> updateControl;
-    std::function<void(bool)> setEnabled;
-    std::function<void(bool)> updateEnableState;
-    std::function<void(bool)> setHidden;
-    std::function<void(bool)> setError;
-    std::function<bool()> isError;
+public:
+    // A new control of the kind named ("checkbox", ... anyControlKinds()); without a parent
+    // the adapter owns it.
+    explicit AnyControl(const QString &kindName, QWidget *parent = nullptr);
+
+    void setReference(MainConfigIFace *iface, int ref, QWidget *label, QList<QWidget *> related)
+    {
+        bound = ref;
+        kind->setReference(widget, iface, ref, label, related);
+    }
+
+    void updateControl(int id) { kind->updateControl(widget, id); }
+    void setEnabled(bool on) { kind->setEnabled(widget, on); }
+    void updateEnableState(bool on) { kind->updateEnableState(widget, on); }
+    void setHidden(bool on) { kind->setHidden(widget, on); }
+    void setError(bool on) { kind->setError(widget, on); }
+    bool isError() const { return kind->isError(widget); }
     // One edit through the widget's own change path, as the user makes it (for the collection
     // editors an add of a new element to the bound parameter).
-    std::function<void()> userEdit;
+    void userEdit();
     // A signal of the control's own that the user edit emits (SIGNAL() form).
-    const char *editSignal = nullptr;
+    const char *editSignal() const;
+    // The kind's own operations beyond the protocol (a collection's add, remove and input
+    // mode, a combo box's skip, ...), each fed the bound reference and an arbitrary value.
+    int operationCount() const;
+    void operate(int index, int ref, const QVariant &value);
+
+    QString name;
+    QPointer<QWidget> widget;
+    const BoundKind *kind;
+
+private:
+    int bound = 0;
+    std::shared_ptr<QWidget> owner;
 };
 
-// The protocol's face of a bound control of any kind, reached through its meta-object; the
-// edit and its signal are left empty.
-AnyControl makeAnyControl(std::unique_ptr<QWidget> control);
-
-// The kinds a protocol test runs over, by name ("checkbox", ...). Add each new kind here.
+// The kinds a protocol test runs over, by name. Add each new kind here.
 QStringList anyControlKinds();
-// The six single-value controls, which have a user edit and paint through a style sheet.
-QStringList valueControlKinds();
-AnyControl makeAnyControl(const QString &kind);
 
-class TestHost;
 // Adds at `ref` a record of the kind's usual type on which the user edit writes to the host.
 MainConfigObject &addEditableRecord(TestHost &host, const QString &kind, int ref);
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QTest>
+#include <QVariant>
+#include <QVector>
 #include <tuple>
 
 // A data table's columns in one call: columns<int, QString>("type", "text").
@@ -24,4 +26,10 @@ template <class... T, class... Name> std::tuple<T...> fetch(const Name &...names
 {
     static_assert(sizeof...(T) == sizeof...(Name), "one name per column");
     return {*static_cast<T *>(QTest::qData(names, qMetaTypeId<T>()))...};
+}
+
+// A collection value as hosts hold it: vec<quint32>({7, 0, 9}).
+template <class Element> QVariant vec(std::initializer_list<Element> elements)
+{
+    return QVariant::fromValue(QVector<Element>(elements));
 }

@@ -82,8 +82,3 @@ ExpectedWarning::~ExpectedWarning()
             qPrintable(QStringLiteral("expected warning did not come: ") + expected.fragment),
             __FILE__, __LINE__);
 }
-
-int ExpectedWarning::seen() const
-{
-    return expectations().at(index).seen;
-}

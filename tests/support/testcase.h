@@ -35,8 +35,6 @@ public:
     ExpectedWarning(const ExpectedWarning &) = delete;
     ExpectedWarning &operator=(const ExpectedWarning &) = delete;
 
-    int seen() const;
-
 private:
     int index;
 };
