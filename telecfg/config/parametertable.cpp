@@ -334,7 +334,10 @@ ParameterTable::Rules ParameterTable::rules(int ref) const
 
 ParameterTable::Rules ParameterTable::validityRules(int ref) const
 {
-    const Private::Entry entry = d->entries.value(ref);
+    // Looked up in place: the table judges validity at every paint.
+    static const Private::Entry none;
+    const auto found = d->entries.constFind(ref);
+    const Private::Entry &entry = found == d->entries.constEnd() ? none : *found;
     Rules rules = entry.rules;
     const auto record = d->records.constFind(ref);
     if (record == d->records.constEnd() || rules.minimum.isValid() || rules.maximum.isValid() ||
