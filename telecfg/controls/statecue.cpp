@@ -4,11 +4,13 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QWidget>
@@ -255,11 +257,60 @@ QString shownName(QWidget *control, QWidget *label)
     return name;
 }
 
+namespace {
+constexpr char namerName[] = "telecfg_label_name";
+
+// Keeps a control's accessible name its label's text: set at binding and again at every
+// change of language, when the host's forms have retranslated their labels (a window hears
+// of the change before the widgets inside it). A name the host gave the control is kept.
+class LabelName : public QObject
+{
+public:
+    explicit LabelName(QWidget *control) : QObject(control), control(control)
+    {
+        setObjectName(QLatin1String(namerName));
+        control->installEventFilter(this);
+    }
+
+    void follow(QWidget *newLabel)
+    {
+        label = newLabel;
+        rename();
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == control && event->type() == QEvent::LanguageChange)
+            rename();
+        return false;
+    }
+
+private:
+    void rename()
+    {
+        const QString current = control->accessibleName();
+        if (!current.isEmpty() && current != given)
+            return; // the host's own
+        const QString name = shownName(control, label);
+        if (name.isEmpty() || name == current)
+            return;
+        given = name;
+        control->setAccessibleName(name);
+    }
+
+    QWidget *const control;
+    QPointer<QWidget> label;
+    QString given;
+};
+} // namespace
+
 void nameAfterLabel(QWidget *control, QWidget *label)
 {
-    const QString name = shownName(control, label);
-    if (!name.isEmpty() && control->accessibleName() != name)
-        control->setAccessibleName(name);
+    auto *namer = static_cast<LabelName *>(
+        control->findChild<QObject *>(QLatin1String(namerName), Qt::FindDirectChildrenOnly));
+    if (!namer)
+        namer = new LabelName(control);
+    namer->follow(label);
 }
 
 QString outsideRange(const QString &minimum, const QString &maximum)

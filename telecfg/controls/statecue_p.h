@@ -52,7 +52,8 @@ void present(QWidget *control, const Presentation &presentation, Memo &memo);
 // else the label whose buddy it is) without mnemonic marks and trailing colon, with a
 // button's own text after it. Either widget may be null; empty when neither tells a name.
 QString shownName(QWidget *control, QWidget *label);
-// Makes shownName() the control's accessible name.
+// Makes shownName() the control's accessible name, and keeps it so at every change of the
+// application's language; a name the host gave the control itself stays.
 void nameAfterLabel(QWidget *control, QWidget *label);
 
 // The line the tool tip and the accessible description gain for a state ("" when normal).

@@ -263,24 +263,38 @@ private slots:
 
     void accessibleNameIsTheLabel_data()
     {
-        columns<QString, QString>("kind", "name");
+        columns<QString, QString, QString, QString>("kind", "own", "relabel", "name");
         for (const char *kind :
              {"lineedit", "spinbox", "doublespinbox", "combobox", "checkbox", "list", "table"})
-            row(kind, kind, "Pojemność");
-        row("radiobutton", "radiobutton", "Pojemność: Ręcznie");
+            row(kind, kind, "", "", "Pojemność");
+        row("radiobutton", "radiobutton", "", "", "Pojemność: Ręcznie");
+        // The form retranslates its labels at a change of language, before its controls
+        // hear of it.
+        row("combobox retranslated", "combobox", "", "&Capacity:", "Capacity");
+        row("radiobutton retranslated", "radiobutton", "", "&Capacity:", "Capacity: Ręcznie");
+        row("host's own name kept", "spinbox", "Tank", "&Capacity:", "Tank");
     }
 
-    // A screen reader names every kind after its label; a radio button adds its own choice.
+    // A screen reader names every kind after its label, through a change of language too; a
+    // radio button adds its own choice; a name the host gave the control itself stays.
     void accessibleNameIsTheLabel()
     {
-        auto [kind, name] = fetch<QString, QString>("kind", "name");
-        AnyControl control(kind);
+        auto [kind, own, relabel, name] =
+            fetch<QString, QString, QString, QString>("kind", "own", "relabel", "name");
+        QWidget form;
+        auto *label = new QLabel(QStringLiteral("&Pojemność:"), &form);
+        AnyControl control(kind, &form);
         if (auto *radio = qobject_cast<CfgRadioButton *>(control.widget.data()))
             radio->setText(QStringLiteral("Ręcznie"));
+        control.widget->setAccessibleName(own);
         TestHost host;
         addEditableRecord(host, kind, ref).minVersions[0] = 0;
-        QLabel label(QStringLiteral("&Pojemność:"));
-        control.setReference(&host, ref, &label, {});
+        control.setReference(&host, ref, label, {});
+        if (!relabel.isEmpty()) {
+            label->setText(relabel);
+            QEvent change(QEvent::LanguageChange);
+            QCoreApplication::sendEvent(&form, &change);
+        }
         QAccessibleInterface *face = QAccessible::queryAccessibleInterface(control.widget.data());
         QVERIFY(face);
         QCOMPARE(face->text(QAccessible::Name), name);
