@@ -5,6 +5,7 @@
 #include "telecfg/collections/cfglistwidget.h"
 #include "telecfg/collections/cfgtablewidget.h"
 #include "telecfg/collections/valuetypes.h"
+#include "telecfg/config/parametertable.h"
 #include "telecfg/controls/cfgcheckbox.h"
 #include "telecfg/controls/cfgcombobox.h"
 #include "telecfg/controls/cfgradiobutton.h"
@@ -259,6 +260,37 @@ private slots:
             for (int x = 0; x < qMin(plain.width(), cued.width()); ++x)
                 most = qMax(most, contrast(plain.pixel(x, y), cued.pixel(x, y)));
         QVERIFY2(most >= 3, qPrintable(QStringLiteral("greyscale difference %1").arg(most)));
+    }
+
+    void modifiedLineTellsTheStoredValue_data()
+    {
+        columns<QString, QVariant, QVariant, QString>("kind", "stored", "edit", "line");
+        row("spinbox", "spinbox", QVariant(40u), QVariant(7u), "Zmieniona, zapisana wartość: 40");
+        row("combobox: the option's text", "combobox", QVariant("1"), QVariant("2"),
+            "Zmieniona, zapisana wartość: a");
+        row("checkbox: in words", "checkbox", QVariant(0u), QVariant(1u),
+            "Zmieniona, zapisana wartość: niezaznaczone");
+        row("lineedit", "lineedit", QVariant("Pojazd 17"), QVariant("Pojazd 18"),
+            "Zmieniona, zapisana wartość: Pojazd 17");
+    }
+
+    // Over a table that knows the stored value, a modified control says it as the user sees it.
+    void modifiedLineTellsTheStoredValue()
+    {
+        auto [kind, stored, edit, line] =
+            fetch<QString, QVariant, QVariant, QString>("kind", "stored", "edit", "line");
+        TestHost scratch;
+        MainConfigObject record = addEditableRecord(scratch, kind, ref);
+        record.value = stored;
+        if (kind == QLatin1String("lineedit"))
+            record.minimum = record.maximum = QVariant(); // a text, no range
+        ParameterTable table;
+        table.addRecord(ref, record);
+        table.setValue(ref, edit);
+        AnyControl control(kind);
+        control.setReference(&table, ref, nullptr, {});
+        control.updateControl(1);
+        QCOMPARE(control.widget->toolTip(), line);
     }
 
     void accessibleNameIsTheLabel_data()

@@ -16,4 +16,4 @@ add_test(NAME package_consumer
         -DVERSION=${PROJECT_VERSION}
         -P ${CMAKE_CURRENT_LIST_DIR}/consumer_check.cmake)
 set_tests_properties(package_consumer PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 600)
+    ENVIRONMENT "${telecfg_test_environment}" TIMEOUT 600)

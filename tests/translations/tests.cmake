@@ -12,5 +12,6 @@ telecfg_add_catalogue_check(NAME telecfg_catalogue
 if(TARGET telecfg-demo)
     add_test(NAME demo_english_screenshots
         COMMAND telecfg-demo --lang en --screenshot ${CMAKE_CURRENT_BINARY_DIR}/demo-english)
-    set_tests_properties(demo_english_screenshots PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    set_tests_properties(demo_english_screenshots PROPERTIES
+        ENVIRONMENT "${telecfg_test_environment}")
 endif()
