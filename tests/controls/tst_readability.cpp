@@ -19,6 +19,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStyleFactory>
 #include <QtTest>
 #include <cmath>
@@ -290,6 +291,50 @@ private slots:
         AnyControl control(kind);
         control.setReference(&table, ref, nullptr, {});
         control.updateControl(1);
+        QCOMPARE(control.widget->toolTip(), line);
+    }
+
+    void invalidLineTellsWhy_data()
+    {
+        columns<QString, QVariant, int, int, QString, QString, QString>(
+            "kind", "value", "step", "maxLength", "pattern", "typed", "line");
+        row("pattern", "lineedit", QVariant("12a4"), 1, -1, "[0-9]{4}", "",
+            "Nieprawidłowa: nie pasuje do wzorca");
+        row("too long by one", "lineedit", QVariant("12345"), 1, 4, "", "",
+            "Nieprawidłowa: za długa, najwyżej 4 znaków");
+        row("not a multiple of the step", "spinbox", QVariant(7u), 5, -1, "", "",
+            "Nieprawidłowa: nie jest wielokrotnością kroku 5");
+        row("typed with a blank at an end", "lineedit", QVariant("abc"), 1, -1, "", "abc ",
+            "Nieprawidłowa: odstęp na początku lub na końcu");
+    }
+
+    // An invalid control says why, where the table's rules or the control itself tell it.
+    void invalidLineTellsWhy()
+    {
+        auto [kind, value, step, maxLength, pattern, typed, line] =
+            fetch<QString, QVariant, int, int, QString, QString, QString>(
+                "kind", "value", "step", "maxLength", "pattern", "typed", "line");
+        TestHost scratch;
+        MainConfigObject record = addEditableRecord(scratch, kind, ref);
+        record.value = value;
+        record.step = step;
+        if (kind == QLatin1String("lineedit")) {
+            record.type = 0; // a free text: no range, no validator
+            record.minimum = record.maximum = QVariant();
+        }
+        ParameterTable table;
+        table.addRecord(ref, record);
+        ParameterTable::Rules rules;
+        rules.maxLength = maxLength;
+        rules.pattern = pattern;
+        table.setRules(ref, rules);
+        AnyControl control(kind);
+        control.setReference(&table, ref, nullptr, {});
+        control.updateControl(1);
+        if (!typed.isEmpty()) {
+            qobject_cast<QLineEdit *>(control.widget.data())->clear();
+            QTest::keyClicks(control.widget.data(), typed);
+        }
         QCOMPARE(control.widget->toolTip(), line);
     }
 
