@@ -263,60 +263,40 @@ private slots:
         QVERIFY2(most >= 3, qPrintable(QStringLiteral("greyscale difference %1").arg(most)));
     }
 
-    void modifiedLineTellsTheStoredValue_data()
+    void stateLineOverATable_data()
     {
-        columns<QString, QVariant, QVariant, QString>("kind", "stored", "edit", "line");
-        row("spinbox", "spinbox", QVariant(40u), QVariant(7u), "Zmieniona, zapisana wartość: 40");
-        row("combobox: the option's text", "combobox", QVariant("1"), QVariant("2"),
-            "Zmieniona, zapisana wartość: a");
-        row("checkbox: in words", "checkbox", QVariant(0u), QVariant(1u),
+        columns<QString, QVariant, QVariant, int, int, QString, QString, QString>(
+            "kind", "stored", "value", "step", "maxLength", "pattern", "typed", "line");
+        // Modified: the stored value as the user reads it.
+        row("spinbox modified", "spinbox", QVariant(40u), QVariant(7u), 1, -1, "", "",
+            "Zmieniona, zapisana wartość: 40");
+        row("combobox modified: the option's text", "combobox", QVariant("1"), QVariant("2"), 1, -1,
+            "", "", "Zmieniona, zapisana wartość: a");
+        row("checkbox modified: in words", "checkbox", QVariant(0u), QVariant(1u), 1, -1, "", "",
             "Zmieniona, zapisana wartość: niezaznaczone");
-        row("lineedit", "lineedit", QVariant("Pojazd 17"), QVariant("Pojazd 18"),
-            "Zmieniona, zapisana wartość: Pojazd 17");
+        row("lineedit modified", "lineedit", QVariant("Pojazd 17"), QVariant("Pojazd 18"), 1, -1,
+            "", "", "Zmieniona, zapisana wartość: Pojazd 17");
+        // Invalid: why, where the table's rules or the control itself tell it.
+        row("pattern", "lineedit", QVariant("12a4"), QVariant("12a4"), 1, -1, "[0-9]{4}", "",
+            "Nieprawidłowa: nie pasuje do wzorca");
+        row("too long by one", "lineedit", QVariant("12345"), QVariant("12345"), 1, 4, "", "",
+            "Nieprawidłowa: za długa, najwyżej 4 znaków");
+        row("not a multiple of the step", "spinbox", QVariant(7u), QVariant(7u), 5, -1, "", "",
+            "Nieprawidłowa: nie jest wielokrotnością kroku 5");
+        row("typed with a blank at an end", "lineedit", QVariant("abc"), QVariant("abc"), 1, -1, "",
+            "abc ", "Nieprawidłowa: odstęp na początku lub na końcu");
     }
 
-    // Over a table that knows the stored value, a modified control says it as the user sees it.
-    void modifiedLineTellsTheStoredValue()
+    // Over a table that knows the stored value and the rules, the state line says what is
+    // stored of a modified value and why an invalid one is invalid.
+    void stateLineOverATable()
     {
-        auto [kind, stored, edit, line] =
-            fetch<QString, QVariant, QVariant, QString>("kind", "stored", "edit", "line");
+        auto [kind, stored, value, step, maxLength, pattern, typed, line] =
+            fetch<QString, QVariant, QVariant, int, int, QString, QString, QString>(
+                "kind", "stored", "value", "step", "maxLength", "pattern", "typed", "line");
         TestHost scratch;
         MainConfigObject record = addEditableRecord(scratch, kind, ref);
         record.value = stored;
-        if (kind == QLatin1String("lineedit"))
-            record.minimum = record.maximum = QVariant(); // a text, no range
-        ParameterTable table;
-        table.addRecord(ref, record);
-        table.setValue(ref, edit);
-        AnyControl control(kind);
-        control.setReference(&table, ref, nullptr, {});
-        control.updateControl(1);
-        QCOMPARE(control.widget->toolTip(), line);
-    }
-
-    void invalidLineTellsWhy_data()
-    {
-        columns<QString, QVariant, int, int, QString, QString, QString>(
-            "kind", "value", "step", "maxLength", "pattern", "typed", "line");
-        row("pattern", "lineedit", QVariant("12a4"), 1, -1, "[0-9]{4}", "",
-            "Nieprawidłowa: nie pasuje do wzorca");
-        row("too long by one", "lineedit", QVariant("12345"), 1, 4, "", "",
-            "Nieprawidłowa: za długa, najwyżej 4 znaków");
-        row("not a multiple of the step", "spinbox", QVariant(7u), 5, -1, "", "",
-            "Nieprawidłowa: nie jest wielokrotnością kroku 5");
-        row("typed with a blank at an end", "lineedit", QVariant("abc"), 1, -1, "", "abc ",
-            "Nieprawidłowa: odstęp na początku lub na końcu");
-    }
-
-    // An invalid control says why, where the table's rules or the control itself tell it.
-    void invalidLineTellsWhy()
-    {
-        auto [kind, value, step, maxLength, pattern, typed, line] =
-            fetch<QString, QVariant, int, int, QString, QString, QString>(
-                "kind", "value", "step", "maxLength", "pattern", "typed", "line");
-        TestHost scratch;
-        MainConfigObject record = addEditableRecord(scratch, kind, ref);
-        record.value = value;
         record.step = step;
         if (kind == QLatin1String("lineedit")) {
             record.type = 0; // a free text: no range, no validator
@@ -328,6 +308,7 @@ private slots:
         rules.maxLength = maxLength;
         rules.pattern = pattern;
         table.setRules(ref, rules);
+        table.setValue(ref, value);
         AnyControl control(kind);
         control.setReference(&table, ref, nullptr, {});
         control.updateControl(1);
